@@ -1,1 +1,1078 @@
-// placeholder
+// The default tree backend: the configuration-tree interface implemented on Boost.JSON's event
+// parser.
+//
+// Every root owns an arena. Nodes, keys and texts are bump-allocated in it and never move, so a
+// borrowed node keeps its address until the root is released, whatever is inserted elsewhere.
+// Containers are singly linked lists of their children (first, last, next sibling), which keeps
+// insertion order and makes appending O(1). Object lookups start from the member after the last
+// one found, so reading the members of an object in document order costs O(1) per member.
+//
+// Scalars keep their text: a string its bytes (any bytes; NUL-terminated for the char const*
+// interface), a number the text it was read from or written as. Serialising therefore writes
+// numbers back exactly as they came, and cfg_get_param of a number is its text without formatting.
+//
+// A tree is used by one thread at a time: lookups update the object's search hint.
+
+#include <wlccw/cfg/tree.hpp>
+
+#include <boost/json/basic_parser_impl.hpp>
+
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+#include <memory>
+#include <new>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace {
+
+enum class Kind : std::uint8_t { Null, Bool, Int, UInt, Double, String, Array, Object };
+
+} // namespace
+
+// A node. Members are reached only through the functions of this file.
+struct lcw_data_t {
+  lcw_data_t* parent = nullptr; // null for a root
+  lcw_data_t* next = nullptr;   // next sibling in the parent's order
+  char const* key = nullptr;    // NUL-terminated member name; null for array elements and roots
+  std::uint32_t key_len = 0;
+  Kind kind = Kind::Null;
+  bool boolean = false;
+  struct Children {
+    lcw_data_t* first;
+    lcw_data_t* last;
+    lcw_data_t* hint; // the member where the next lookup starts (objects)
+  };
+  struct Text {
+    char const* text; // NUL-terminated string bytes or number text
+    std::uint32_t len;
+    union {
+      std::int64_t i;
+      std::uint64_t u;
+    } v;
+  };
+  union {
+    Children c; // arrays and objects
+    Text s;     // strings and numbers
+  };
+
+  lcw_data_t() : c{nullptr, nullptr, nullptr} {}
+  bool is_container() const noexcept { return kind == Kind::Array || kind == Kind::Object; }
+};
+
+struct lcw_array_iterator_t {
+  lcw_data_t* next;
+};
+
+struct lcw_object_iterator_t {
+  lcw_data_t* next;
+};
+
+namespace {
+
+// ---- Arena -------------------------------------------------------------------------------------
+
+class Arena {
+public:
+  Arena() = default;
+  Arena(Arena const&) = delete;
+  Arena& operator=(Arena const&) = delete;
+  ~Arena() {
+    Chunk* c = head_;
+    while (c != nullptr) {
+      Chunk* next = c->next;
+      std::free(c);
+      c = next;
+    }
+  }
+
+  void reserve(std::size_t bytes) { next_size_ = std::max(next_size_, bytes); }
+
+  void* allocate(std::size_t size, std::size_t align) {
+    std::uintptr_t p = (cur_ + (align - 1)) & ~(std::uintptr_t{align} - 1);
+    if (head_ == nullptr || p + size > end_) {
+      grow(size + align);
+      p = (cur_ + (align - 1)) & ~(std::uintptr_t{align} - 1);
+    }
+    cur_ = p + size;
+    return reinterpret_cast<void*>(p);
+  }
+
+  template <typename T> T* make() { return ::new (allocate(sizeof(T), alignof(T))) T(); }
+
+  // A NUL-terminated copy of the bytes.
+  char const* copy(char const* data, std::size_t n) {
+    auto* out = static_cast<char*>(allocate(n + 1, 1));
+    if (n != 0) {
+      std::memcpy(out, data, n);
+    }
+    out[n] = '\0';
+    return out;
+  }
+
+private:
+  struct Chunk {
+    Chunk* next;
+  };
+
+  void grow(std::size_t at_least) {
+    std::size_t size = std::max(next_size_, at_least + sizeof(Chunk));
+    auto* c = static_cast<Chunk*>(std::malloc(size));
+    if (c == nullptr) {
+      throw std::bad_alloc();
+    }
+    c->next = head_;
+    head_ = c;
+    cur_ = reinterpret_cast<std::uintptr_t>(c) + sizeof(Chunk);
+    end_ = reinterpret_cast<std::uintptr_t>(c) + size;
+    next_size_ = std::min<std::size_t>(size * 2, std::size_t{1} << 24);
+  }
+
+  Chunk* head_ = nullptr;
+  std::uintptr_t cur_ = 0;
+  std::uintptr_t end_ = 0;
+  std::size_t next_size_ = 1024;
+};
+
+// A root node together with the storage of its whole tree.
+struct Doc : lcw_data_t {
+  Arena arena;
+  std::string out; // the last serialised text of any node of this tree
+};
+
+Doc* doc_of(lcw_data_t const* node) {
+  while (node->parent != nullptr) {
+    node = node->parent;
+  }
+  return static_cast<Doc*>(const_cast<lcw_data_t*>(node));
+}
+
+Doc* new_doc(Kind kind) {
+  auto* d = new (std::nothrow) Doc();
+  if (d != nullptr) {
+    d->kind = kind;
+  }
+  return d;
+}
+
+constexpr std::size_t max_depth = 512;
+constexpr std::size_t max_text_len = std::numeric_limits<std::uint32_t>::max() - 1;
+
+// ---- Structure ---------------------------------------------------------------------------------
+
+void append_child(lcw_data_t* parent, lcw_data_t* child) {
+  child->parent = parent;
+  child->next = nullptr;
+  if (parent->c.last == nullptr) {
+    parent->c.first = child;
+  } else {
+    parent->c.last->next = child;
+  }
+  parent->c.last = child;
+}
+
+bool key_is(lcw_data_t const* member, char const* key, std::size_t len) {
+  return member->key_len == len && std::memcmp(member->key, key, len) == 0;
+}
+
+// The member with the given name, searched from the hint to the end and then from the start.
+lcw_data_t* find_member(lcw_data_t const* node, char const* key, std::size_t len) {
+  if (node == nullptr || key == nullptr || node->kind != Kind::Object) {
+    return nullptr;
+  }
+  auto* object = const_cast<lcw_data_t*>(node);
+  lcw_data_t* start = object->c.hint != nullptr ? object->c.hint : object->c.first;
+  for (lcw_data_t* m = start; m != nullptr; m = m->next) {
+    if (key_is(m, key, len)) {
+      object->c.hint = m->next != nullptr ? m->next : m;
+      return m;
+    }
+  }
+  for (lcw_data_t* m = object->c.first; m != start; m = m->next) {
+    if (key_is(m, key, len)) {
+      object->c.hint = m->next != nullptr ? m->next : m;
+      return m;
+    }
+  }
+  return nullptr;
+}
+
+lcw_data_t* find_member(lcw_data_t const* node, char const* key) {
+  if (key == nullptr) {
+    return nullptr;
+  }
+  return find_member(node, key, std::strlen(key));
+}
+
+// Turns a node into an empty value of the given kind, keeping its place and name.
+void reset_value(lcw_data_t* node, Kind kind) {
+  node->kind = kind;
+  node->boolean = false;
+  node->c.first = nullptr;
+  node->c.last = nullptr;
+  node->c.hint = nullptr;
+}
+
+// The node that a write to member `key` of `parent` fills: the existing member (kept in place), a
+// new member appended to an object, or a new element appended to an array (key null for arrays;
+// a key given for an array is ignored). Null when the parent cannot hold it.
+lcw_data_t* slot(lcw_data_t* parent, char const* key) {
+  if (parent == nullptr) {
+    return nullptr;
+  }
+  if (parent->kind == Kind::Array) {
+    auto* node = doc_of(parent)->arena.make<lcw_data_t>();
+    append_child(parent, node);
+    return node;
+  }
+  if (parent->kind != Kind::Object || key == nullptr) {
+    return nullptr;
+  }
+  std::size_t const len = std::strlen(key);
+  if (len > max_text_len) {
+    return nullptr;
+  }
+  if (lcw_data_t* existing = find_member(parent, key, len)) {
+    return existing;
+  }
+  auto* node = doc_of(parent)->arena.make<lcw_data_t>();
+  node->key = doc_of(parent)->arena.copy(key, len);
+  node->key_len = static_cast<std::uint32_t>(len);
+  append_child(parent, node);
+  return node;
+}
+
+// ---- Scalars -----------------------------------------------------------------------------------
+
+void set_string(lcw_data_t* node, char const* text, std::size_t len) {
+  reset_value(node, Kind::String);
+  node->s.text = doc_of(node)->arena.copy(text, len);
+  node->s.len = static_cast<std::uint32_t>(len);
+}
+
+template <typename T> void set_integer(lcw_data_t* node, T value) {
+  char buf[24];
+  auto const r = std::to_chars(buf, buf + sizeof buf, value);
+  auto const len = static_cast<std::size_t>(r.ptr - buf);
+  if constexpr (std::is_signed_v<T>) {
+    reset_value(node, Kind::Int);
+    node->s.v.i = static_cast<std::int64_t>(value);
+  } else {
+    reset_value(node, Kind::UInt);
+    node->s.v.u = static_cast<std::uint64_t>(value);
+  }
+  node->s.text = doc_of(node)->arena.copy(buf, len);
+  node->s.len = static_cast<std::uint32_t>(len);
+}
+
+void set_bool(lcw_data_t* node, bool value) {
+  reset_value(node, Kind::Bool);
+  node->boolean = value;
+}
+
+char const* scalar_text(lcw_data_t const* node) {
+  if (node == nullptr) {
+    return "";
+  }
+  switch (node->kind) {
+  case Kind::String:
+  case Kind::Int:
+  case Kind::UInt:
+  case Kind::Double:
+    return node->s.text;
+  case Kind::Bool:
+    return node->boolean ? "true" : "false";
+  default:
+    return "";
+  }
+}
+
+// An integer value of a node: a JSON integer, or a string whose whole text is one decimal integer
+// with an optional leading "-".
+struct Integer {
+  bool negative;     // value is -magnitude
+  std::uint64_t mag; // magnitude
+};
+
+std::optional<Integer> decimal_text(char const* p, std::size_t n) {
+  Integer r{false, 0};
+  if (n != 0 && *p == '-') {
+    r.negative = true;
+    ++p;
+    --n;
+  }
+  if (n == 0) {
+    return std::nullopt;
+  }
+  for (std::size_t i = 0; i < n; ++i) {
+    char const ch = p[i];
+    if (ch < '0' || ch > '9') {
+      return std::nullopt;
+    }
+    auto const d = static_cast<std::uint64_t>(ch - '0');
+    if (r.mag > (std::numeric_limits<std::uint64_t>::max() - d) / 10) {
+      return std::nullopt; // beyond every reader's range
+    }
+    r.mag = r.mag * 10 + d;
+  }
+  return r;
+}
+
+std::optional<Integer> integer_of(lcw_data_t const* node) {
+  if (node == nullptr) {
+    return std::nullopt;
+  }
+  switch (node->kind) {
+  case Kind::Int:
+    if (node->s.v.i < 0) {
+      return Integer{true, 0 - static_cast<std::uint64_t>(node->s.v.i)};
+    }
+    return Integer{false, static_cast<std::uint64_t>(node->s.v.i)};
+  case Kind::UInt:
+    return Integer{false, node->s.v.u};
+  case Kind::String:
+    return decimal_text(node->s.text, node->s.len);
+  default:
+    return std::nullopt;
+  }
+}
+
+template <typename T> std::optional<T> integer_as(lcw_data_t const* node) {
+  std::optional<Integer> const v = integer_of(node);
+  if (!v) {
+    return std::nullopt;
+  }
+  if (v->negative && v->mag != 0) {
+    if constexpr (std::is_signed_v<T>) {
+      // -mag fits when mag <= |min| = max + 1
+      auto const limit = static_cast<std::uint64_t>(std::numeric_limits<T>::max()) + 1U;
+      if (v->mag > limit) {
+        return std::nullopt;
+      }
+      return static_cast<T>(-static_cast<std::int64_t>(v->mag - 1) - 1);
+    } else {
+      return std::nullopt;
+    }
+  }
+  if (v->mag > static_cast<std::uint64_t>(std::numeric_limits<T>::max())) {
+    return std::nullopt;
+  }
+  return static_cast<T>(v->mag);
+}
+
+template <typename T> T member_integer(lcw_data_t const* node, char const* key) {
+  return integer_as<T>(find_member(node, key)).value_or(T{0});
+}
+
+template <typename T> void set_member_integer(lcw_data_t* node, char const* key, T value) {
+  if (lcw_data_t* m = slot(node, key)) {
+    set_integer(m, value);
+  }
+}
+
+// ---- Parsing -----------------------------------------------------------------------------------
+
+class Builder {
+public:
+  using error_code = boost::json::error_code;
+  using string_view = boost::json::string_view;
+
+  static constexpr std::size_t max_array_size = static_cast<std::size_t>(-1);
+  static constexpr std::size_t max_object_size = static_cast<std::size_t>(-1);
+  static constexpr std::size_t max_string_size = max_text_len;
+  static constexpr std::size_t max_key_size = max_text_len;
+
+  explicit Builder(std::size_t text_len) { reserve_ = text_len; }
+
+  Doc* release() noexcept { return std::exchange(doc_, nullptr); }
+  ~Builder() { delete doc_; }
+  Builder(Builder const&) = delete;
+  Builder& operator=(Builder const&) = delete;
+
+  bool on_document_begin(error_code&) { return true; }
+  bool on_document_end(error_code&) { return true; }
+
+  bool on_array_begin(error_code&) {
+    open(Kind::Array);
+    return true;
+  }
+  bool on_array_end(std::size_t, error_code&) {
+    top_ = top_->parent;
+    return true;
+  }
+  bool on_object_begin(error_code&) {
+    open(Kind::Object);
+    return true;
+  }
+  bool on_object_end(std::size_t, error_code&) {
+    top_ = top_->parent;
+    return true;
+  }
+
+  bool on_string_part(string_view s, std::size_t, error_code&) {
+    part_.append(s.data(), s.size());
+    return true;
+  }
+  bool on_string(string_view s, std::size_t, error_code&) {
+    lcw_data_t* n = value(Kind::String);
+    if (part_.empty()) {
+      n->s.text = doc_->arena.copy(s.data(), s.size());
+      n->s.len = static_cast<std::uint32_t>(s.size());
+    } else {
+      part_.append(s.data(), s.size());
+      n->s.text = doc_->arena.copy(part_.data(), part_.size());
+      n->s.len = static_cast<std::uint32_t>(part_.size());
+      part_.clear();
+    }
+    return true;
+  }
+
+  bool on_key_part(string_view s, std::size_t, error_code&) {
+    part_.append(s.data(), s.size());
+    return true;
+  }
+  bool on_key(string_view s, std::size_t, error_code&) {
+    if (part_.empty()) {
+      key_ = doc_->arena.copy(s.data(), s.size());
+      key_len_ = static_cast<std::uint32_t>(s.size());
+    } else {
+      part_.append(s.data(), s.size());
+      key_ = doc_->arena.copy(part_.data(), part_.size());
+      key_len_ = static_cast<std::uint32_t>(part_.size());
+      part_.clear();
+    }
+    return true;
+  }
+
+  bool on_number_part(string_view s, error_code&) {
+    part_.append(s.data(), s.size());
+    return true;
+  }
+  bool on_int64(std::int64_t i, string_view s, error_code&) {
+    lcw_data_t* n = number(Kind::Int, s);
+    n->s.v.i = i;
+    return true;
+  }
+  bool on_uint64(std::uint64_t u, string_view s, error_code&) {
+    lcw_data_t* n = number(Kind::UInt, s);
+    n->s.v.u = u;
+    return true;
+  }
+  bool on_double(double, string_view s, error_code&) {
+    number(Kind::Double, s);
+    return true;
+  }
+  bool on_bool(bool b, error_code&) {
+    value(Kind::Bool)->boolean = b;
+    return true;
+  }
+  bool on_null(error_code&) {
+    value(Kind::Null);
+    return true;
+  }
+  bool on_comment_part(string_view, error_code&) { return true; }
+  bool on_comment(string_view, error_code&) { return true; }
+
+private:
+  // A new node for the next value: the root, or a child of the open container.
+  lcw_data_t* value(Kind kind) {
+    lcw_data_t* n = nullptr;
+    if (doc_ == nullptr) {
+      doc_ = new Doc();
+      doc_->arena.reserve(reserve_ * 2 + 256);
+      n = doc_;
+    } else {
+      n = doc_->arena.make<lcw_data_t>();
+      if (top_->kind == Kind::Object) {
+        n->key = key_;
+        n->key_len = key_len_;
+      }
+      append_child(top_, n);
+    }
+    n->kind = kind;
+    return n;
+  }
+
+  void open(Kind kind) { top_ = value(kind); }
+
+  lcw_data_t* number(Kind kind, string_view s) {
+    lcw_data_t* n = value(kind);
+    if (part_.empty()) {
+      n->s.text = doc_->arena.copy(s.data(), s.size());
+      n->s.len = static_cast<std::uint32_t>(s.size());
+    } else {
+      part_.append(s.data(), s.size());
+      n->s.text = doc_->arena.copy(part_.data(), part_.size());
+      n->s.len = static_cast<std::uint32_t>(part_.size());
+      part_.clear();
+    }
+    return n;
+  }
+
+  Doc* doc_ = nullptr;
+  lcw_data_t* top_ = nullptr;
+  char const* key_ = nullptr;
+  std::uint32_t key_len_ = 0;
+  std::string part_; // pieces of a string, key or number split by escapes
+  std::size_t reserve_ = 0;
+};
+
+// ---- Serialising -------------------------------------------------------------------------------
+
+// Characters that JSON requires to be escaped: quote, backslash and control characters.
+constexpr bool needs_escape(unsigned char ch) {
+  return ch < 0x20 || ch == '"' || ch == '\\';
+}
+
+void write_string(std::string& out, char const* p, std::size_t n) {
+  static constexpr char hex[] = "0123456789abcdef";
+  out.push_back('"');
+  std::size_t run = 0;
+  for (std::size_t i = 0; i < n; ++i) {
+    auto const ch = static_cast<unsigned char>(p[i]);
+    if (!needs_escape(ch)) {
+      continue;
+    }
+    out.append(p + run, i - run);
+    run = i + 1;
+    switch (ch) {
+    case '"':
+      out.append("\\\"", 2);
+      break;
+    case '\\':
+      out.append("\\\\", 2);
+      break;
+    case '\n':
+      out.append("\\n", 2);
+      break;
+    case '\r':
+      out.append("\\r", 2);
+      break;
+    case '\t':
+      out.append("\\t", 2);
+      break;
+    case '\b':
+      out.append("\\b", 2);
+      break;
+    case '\f':
+      out.append("\\f", 2);
+      break;
+    default: {
+      char const esc[6] = {'\\', 'u', '0', '0', hex[ch >> 4U], hex[ch & 0xFU]};
+      out.append(esc, 6);
+    }
+    }
+  }
+  out.append(p + run, n - run);
+  out.push_back('"');
+}
+
+void write_scalar(std::string& out, lcw_data_t const* n) {
+  switch (n->kind) {
+  case Kind::Null:
+    out.append("null", 4);
+    break;
+  case Kind::Bool:
+    if (n->boolean) {
+      out.append("true", 4);
+    } else {
+      out.append("false", 5);
+    }
+    break;
+  case Kind::Int:
+  case Kind::UInt:
+  case Kind::Double:
+    out.append(n->s.text, n->s.len);
+    break;
+  case Kind::String:
+    write_string(out, n->s.text, n->s.len);
+    break;
+  default:
+    break;
+  }
+}
+
+// Writes a node and everything below it without recursion: the walk follows first-child, next
+// sibling and parent links, so any depth is safe.
+void write_node(std::string& out, lcw_data_t const* top) {
+  lcw_data_t const* n = top;
+  while (true) {
+    if (n->parent != nullptr && n != top) {
+      if (n != n->parent->c.first) {
+        out.push_back(',');
+      }
+      if (n->parent->kind == Kind::Object) {
+        write_string(out, n->key, n->key_len);
+        out.push_back(':');
+      }
+    }
+    if (n->is_container()) {
+      out.push_back(n->kind == Kind::Object ? '{' : '[');
+      if (n->c.first != nullptr) {
+        n = n->c.first;
+        continue;
+      }
+      out.push_back(n->kind == Kind::Object ? '}' : ']');
+    } else {
+      write_scalar(out, n);
+    }
+    // Climb until a node with a next sibling, closing the containers left behind.
+    while (n != top && n->next == nullptr) {
+      n = n->parent;
+      out.push_back(n->kind == Kind::Object ? '}' : ']');
+    }
+    if (n == top) {
+      return;
+    }
+    n = n->next;
+  }
+}
+
+// ---- Copying -----------------------------------------------------------------------------------
+
+bool is_scalar_with_text(Kind kind) {
+  return kind == Kind::String || kind == Kind::Int || kind == Kind::UInt || kind == Kind::Double;
+}
+
+void copy_scalar(Arena& arena, lcw_data_t* d, lcw_data_t const* s) {
+  reset_value(d, s->kind);
+  d->boolean = s->boolean;
+  if (is_scalar_with_text(s->kind)) {
+    d->s.text = arena.copy(s->s.text, s->s.len);
+    d->s.len = s->s.len;
+    d->s.v = s->s.v;
+  }
+}
+
+// Copies the value of src (not its name) into dst, where dst is not src nor inside it. Iterative
+// for the same reason as write_node.
+void copy_disjoint(lcw_data_t* dst, lcw_data_t const* src) {
+  Arena& arena = doc_of(dst)->arena;
+  copy_scalar(arena, dst, src);
+  if (!src->is_container()) {
+    return;
+  }
+  lcw_data_t const* cur = src->c.first;
+  lcw_data_t* dparent = dst;
+  while (cur != nullptr) {
+    auto* child = arena.make<lcw_data_t>();
+    if (dparent->kind == Kind::Object) {
+      child->key = arena.copy(cur->key, cur->key_len);
+      child->key_len = cur->key_len;
+    }
+    append_child(dparent, child);
+    copy_scalar(arena, child, cur);
+    if (cur->is_container() && cur->c.first != nullptr) {
+      dparent = child;
+      cur = cur->c.first;
+      continue;
+    }
+    // Climb until a source node with a next sibling; the destination climbs alongside.
+    while (cur != src && cur->next == nullptr) {
+      cur = cur->parent;
+      dparent = dparent->parent;
+    }
+    if (cur == src) {
+      return;
+    }
+    cur = cur->next;
+  }
+}
+
+// Whether node is outer itself or lies inside it.
+bool contains(lcw_data_t const* outer, lcw_data_t const* node) {
+  for (lcw_data_t const* a = node; a != nullptr; a = a->parent) {
+    if (a == outer) {
+      return true;
+    }
+  }
+  return false;
+}
+
+// Copies the value of src into dst. When dst is src itself or lies inside it, src is first copied
+// aside, so the copy never reads what it is writing.
+void copy_value(lcw_data_t* dst, lcw_data_t const* src) {
+  if (contains(src, dst)) {
+    std::unique_ptr<Doc> aside(new Doc());
+    copy_disjoint(aside.get(), src);
+    copy_disjoint(dst, aside.get());
+    return;
+  }
+  copy_disjoint(dst, src);
+}
+
+} // namespace
+
+// ==== The interface =============================================================================
+
+lcw_data_t* cfg_get_empty() {
+  return new_doc(Kind::Object);
+}
+
+lcw_data_t* cfg_get_empty_array() {
+  return new_doc(Kind::Array);
+}
+
+lcw_data_t* cfg_parse_buffer(char const* text) {
+  if (text == nullptr) {
+    return nullptr;
+  }
+  std::size_t const len = std::strlen(text);
+  boost::json::parse_options options;
+  options.max_depth = max_depth;
+  options.allow_invalid_utf8 = true;
+  boost::json::basic_parser<Builder> parser(options, len);
+  boost::json::error_code ec;
+  std::size_t const used = parser.write_some(false, text, len, ec);
+  if (ec || !parser.done() || used != len) {
+    return nullptr;
+  }
+  return parser.handler().release();
+}
+
+char const* cfg_serialize_compact(lcw_data_t const* node) {
+  if (node == nullptr) {
+    return "";
+  }
+  Doc* doc = doc_of(node);
+  doc->out.clear();
+  write_node(doc->out, node);
+  return doc->out.c_str();
+}
+
+std::string cfg_create_string_compact(std::function<lcw_data_t*()> const& make_root,
+                                      std::function<void(lcw_data_t&)> const& fill) {
+  std::unique_ptr<lcw_data_t, void (*)(lcw_data_t*)> root(make_root(), cfg_release);
+  if (!root) {
+    return {};
+  }
+  fill(*root);
+  return std::string(cfg_serialize_compact(root.get()));
+}
+
+void cfg_release(lcw_data_t* root) {
+  if (root == nullptr || root->parent != nullptr) {
+    return; // only roots are released; a borrowed node lives with its root
+  }
+  delete static_cast<Doc*>(root);
+}
+
+int cfg_is_empty(lcw_data_t const* node) {
+  if (node == nullptr || !node->is_container()) {
+    return 1;
+  }
+  return node->c.first == nullptr ? 1 : 0;
+}
+
+// ---- Reading members ---------------------------------------------------------------------------
+
+int cfg_contain_param(lcw_data_t const* node, char const* key) {
+  return find_member(node, key) != nullptr ? 1 : 0;
+}
+
+char const* cfg_get_param(lcw_data_t const* node, char const* key) {
+  return scalar_text(find_member(node, key));
+}
+
+int cfg_get_boolean_param(lcw_data_t const* node, char const* key) {
+  lcw_data_t const* m = find_member(node, key);
+  return m != nullptr && m->kind == Kind::Bool && m->boolean ? 1 : 0;
+}
+
+int cfg_get_int_param(lcw_data_t const* node, char const* key) {
+  return member_integer<int>(node, key);
+}
+unsigned int cfg_get_uint_param(lcw_data_t const* node, char const* key) {
+  return member_integer<unsigned int>(node, key);
+}
+std::uint8_t cfg_get_uint8_param(lcw_data_t const* node, char const* key) {
+  return member_integer<std::uint8_t>(node, key);
+}
+std::uint16_t cfg_get_uint16_param(lcw_data_t const* node, char const* key) {
+  return member_integer<std::uint16_t>(node, key);
+}
+std::uint32_t cfg_get_uint32_param(lcw_data_t const* node, char const* key) {
+  return member_integer<std::uint32_t>(node, key);
+}
+std::uint64_t cfg_get_uint64_param(lcw_data_t const* node, char const* key) {
+  return member_integer<std::uint64_t>(node, key);
+}
+
+signed char cfg_get_int8_param_with_custom_default(lcw_data_t const* node, char const* key,
+                                                   signed char def) {
+  return integer_as<signed char>(find_member(node, key)).value_or(def);
+}
+
+std::optional<std::string> cfg_get_param_opt(lcw_data_t const* node, char const* key) {
+  lcw_data_t const* m = find_member(node, key);
+  if (m == nullptr || m->is_container() || m->kind == Kind::Null) {
+    return std::nullopt;
+  }
+  if (m->kind == Kind::Bool) {
+    return std::string(m->boolean ? "true" : "false");
+  }
+  return std::string(m->s.text, m->s.len);
+}
+
+std::optional<bool> cfg_get_boolean_param_opt(lcw_data_t const* node, char const* key) {
+  lcw_data_t const* m = find_member(node, key);
+  if (m == nullptr || m->kind != Kind::Bool) {
+    return std::nullopt;
+  }
+  return m->boolean;
+}
+
+std::optional<unsigned char> cfg_get_uint8_param_opt(lcw_data_t const* node, char const* key) {
+  return integer_as<unsigned char>(find_member(node, key));
+}
+std::optional<unsigned int> cfg_get_uint32_param_opt(lcw_data_t const* node, char const* key) {
+  return integer_as<unsigned int>(find_member(node, key));
+}
+std::optional<short> cfg_get_int16_param_opt(lcw_data_t const* node, char const* key) {
+  return integer_as<short>(find_member(node, key));
+}
+std::optional<int> cfg_get_int32_param_opt(lcw_data_t const* node, char const* key) {
+  return integer_as<int>(find_member(node, key));
+}
+
+lcw_data_t* cfg_get_subtree(lcw_data_t const* node, char const* key) {
+  return find_member(node, key);
+}
+
+lcw_data_t* cfg_get_subtree_from_path(lcw_data_t const* node, char const* path) {
+  if (node == nullptr || path == nullptr) {
+    return nullptr;
+  }
+  auto* cur = const_cast<lcw_data_t*>(node);
+  char const* p = path;
+  while (*p != '\0') {
+    if (*p == '/') {
+      ++p;
+      continue;
+    }
+    char const* end = std::strchr(p, '/');
+    std::size_t const len = end != nullptr ? static_cast<std::size_t>(end - p) : std::strlen(p);
+    cur = find_member(cur, p, len);
+    if (cur == nullptr) {
+      return nullptr;
+    }
+    p += len;
+  }
+  return cur;
+}
+
+// ---- Reading a scalar node ---------------------------------------------------------------------
+
+char const* cfg_object_to_string(lcw_data_t const* node) {
+  return scalar_text(node);
+}
+
+std::optional<int> cfg_object_to_int_opt(lcw_data_t const* node) {
+  return integer_as<int>(node);
+}
+
+// ---- Writing members ---------------------------------------------------------------------------
+
+void cfg_set_param(lcw_data_t* node, char const* key, char const* value) {
+  if (lcw_data_t* m = slot(node, key)) {
+    std::size_t const len = value != nullptr ? std::strlen(value) : 0;
+    set_string(m, value != nullptr ? value : "", std::min(len, max_text_len));
+  }
+}
+
+void cfg_set_boolean_param(lcw_data_t* node, char const* key, bool value) {
+  if (lcw_data_t* m = slot(node, key)) {
+    set_bool(m, value);
+  }
+}
+
+void cfg_set_int_param(lcw_data_t* node, char const* key, int value) {
+  set_member_integer(node, key, value);
+}
+void cfg_set_int32_param(lcw_data_t* node, char const* key, std::int32_t value) {
+  set_member_integer(node, key, value);
+}
+void cfg_set_uint_param(lcw_data_t* node, char const* key, unsigned int value) {
+  set_member_integer(node, key, value);
+}
+void cfg_set_uint8_param(lcw_data_t* node, char const* key, std::uint8_t value) {
+  set_member_integer(node, key, static_cast<unsigned int>(value));
+}
+void cfg_set_uint16_param(lcw_data_t* node, char const* key, std::uint16_t value) {
+  set_member_integer(node, key, static_cast<unsigned int>(value));
+}
+void cfg_set_uint32_param(lcw_data_t* node, char const* key, std::uint32_t value) {
+  set_member_integer(node, key, value);
+}
+void cfg_set_uint64_param(lcw_data_t* node, char const* key, std::uint64_t value) {
+  set_member_integer(node, key, value);
+}
+
+void cfg_set_param_opt(lcw_data_t* node, char const* key, std::optional<std::string> const& value) {
+  if (!value) {
+    return;
+  }
+  if (lcw_data_t* m = slot(node, key)) {
+    set_string(m, value->data(), std::min(value->size(), max_text_len));
+  }
+}
+
+void cfg_set_boolean_param_opt(lcw_data_t* node, char const* key,
+                               std::optional<bool> const& value) {
+  if (value) {
+    cfg_set_boolean_param(node, key, *value);
+  }
+}
+
+void cfg_set_int8_param_opt(lcw_data_t* node, char const* key,
+                            std::optional<signed char> const& value) {
+  if (value) {
+    set_member_integer(node, key, static_cast<int>(*value));
+  }
+}
+void cfg_set_int16_param_opt(lcw_data_t* node, char const* key, std::optional<short> const& value) {
+  if (value) {
+    set_member_integer(node, key, static_cast<int>(*value));
+  }
+}
+void cfg_set_uint8_param_opt(lcw_data_t* node, char const* key,
+                             std::optional<unsigned char> const& value) {
+  if (value) {
+    set_member_integer(node, key, static_cast<unsigned int>(*value));
+  }
+}
+void cfg_set_uint32_param_opt(lcw_data_t* node, char const* key,
+                              std::optional<unsigned int> const& value) {
+  if (value) {
+    set_member_integer(node, key, *value);
+  }
+}
+
+// ---- Inserting ---------------------------------------------------------------------------------
+
+lcw_data_t* cfg_insert_child(lcw_data_t* parent, char const* key, lcw_data_t const* child) {
+  if (child == nullptr) {
+    return nullptr;
+  }
+  // Inserting a tree into itself copies the tree as it was before the insertion.
+  std::unique_ptr<Doc> aside;
+  if (contains(child, parent)) {
+    aside.reset(new Doc());
+    copy_disjoint(aside.get(), child);
+    child = aside.get();
+  }
+  lcw_data_t* m = slot(parent, key);
+  if (m != nullptr) {
+    copy_value(m, child);
+  }
+  return m;
+}
+
+lcw_data_t* cfg_insert_child_string(lcw_data_t* parent, char const* key, char const* value) {
+  lcw_data_t* m = slot(parent, key);
+  if (m != nullptr) {
+    std::size_t const len = value != nullptr ? std::strlen(value) : 0;
+    set_string(m, value != nullptr ? value : "", std::min(len, max_text_len));
+  }
+  return m;
+}
+
+lcw_data_t* cfg_insert_child_int(lcw_data_t* parent, char const* key, int value) {
+  lcw_data_t* m = slot(parent, key);
+  if (m != nullptr) {
+    set_integer(m, value);
+  }
+  return m;
+}
+
+lcw_data_t* cfg_insert_empty_subtree(lcw_data_t* parent, char const* key) {
+  lcw_data_t* m = slot(parent, key);
+  if (m != nullptr) {
+    reset_value(m, Kind::Object);
+  }
+  return m;
+}
+
+lcw_data_t* cfg_insert_empty_array(lcw_data_t* parent, char const* key) {
+  lcw_data_t* m = slot(parent, key);
+  if (m != nullptr) {
+    reset_value(m, Kind::Array);
+  }
+  return m;
+}
+
+lcw_data_t* cfg_insert_empty_subtree_or_exists(lcw_data_t* parent, char const* key) {
+  if (lcw_data_t* existing = find_member(parent, key)) {
+    return existing;
+  }
+  return cfg_insert_empty_subtree(parent, key);
+}
+
+lcw_data_t* cfg_insert_empty_array_or_exists(lcw_data_t* parent, char const* key) {
+  if (lcw_data_t* existing = find_member(parent, key)) {
+    return existing;
+  }
+  return cfg_insert_empty_array(parent, key);
+}
+
+// ---- Iterating ---------------------------------------------------------------------------------
+
+lcw_array_iterator_t* cfg_alloc_array_iterator(lcw_data_t const* array) {
+  if (array == nullptr || array->kind != Kind::Array) {
+    return nullptr;
+  }
+  return new (std::nothrow) lcw_array_iterator_t{array->c.first};
+}
+
+lcw_data_t* cfg_next_array_iterator(lcw_array_iterator_t* it) {
+  if (it == nullptr || it->next == nullptr) {
+    return nullptr;
+  }
+  lcw_data_t* element = it->next;
+  it->next = element->next;
+  return element;
+}
+
+void cfg_release_array_iterator(lcw_array_iterator_t* it) {
+  delete it;
+}
+
+lcw_object_iterator_t* cfg_alloc_iterator(lcw_data_t const* object) {
+  if (object == nullptr || object->kind != Kind::Object) {
+    return nullptr;
+  }
+  return new (std::nothrow) lcw_object_iterator_t{object->c.first};
+}
+
+lcw_data_t* cfg_next_object_iterator(lcw_object_iterator_t* it, char const** key) {
+  if (it == nullptr || it->next == nullptr) {
+    return nullptr;
+  }
+  lcw_data_t* member = it->next;
+  it->next = member->next;
+  if (key != nullptr) {
+    *key = member->key;
+  }
+  return member;
+}
+
+void cfg_release_iterator(lcw_object_iterator_t* it) {
+  delete it;
+}
+
+void cfg_iterate_array(lcw_data_t const* array, void (*fn)(lcw_data_t const*, void*), void* ctx) {
+  if (array == nullptr || fn == nullptr || array->kind != Kind::Array) {
+    return;
+  }
+  for (lcw_data_t const* e = array->c.first; e != nullptr; e = e->next) {
+    fn(e, ctx);
+  }
+}

@@ -17,12 +17,20 @@ struct TreeRelease {
 using Tree = std::unique_ptr<lcw_data_t, TreeRelease>;
 
 /// Parses text into an owned root; null for anything but one whole valid JSON text.
-inline Tree parse(char const* text) { return Tree(cfg_parse_buffer(text)); }
-inline Tree parse(std::string const& text) { return Tree(cfg_parse_buffer(text.c_str())); }
+inline Tree parse(char const* text) {
+  return Tree(cfg_parse_buffer(text));
+}
+inline Tree parse(std::string const& text) {
+  return Tree(cfg_parse_buffer(text.c_str()));
+}
 /// A new owned empty object; null when it cannot be made.
-inline Tree make_object() { return Tree(cfg_get_empty()); }
+inline Tree make_object() {
+  return Tree(cfg_get_empty());
+}
 /// A new owned empty array; null when it cannot be made.
-inline Tree make_array() { return Tree(cfg_get_empty_array()); }
+inline Tree make_array() {
+  return Tree(cfg_get_empty_array());
+}
 
 /// A copy of the node's compact text; "" for a null node.
 inline std::string compact(lcw_data_t const* node) {
