@@ -18,6 +18,7 @@
 #include <boost/json/basic_parser_impl.hpp>
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
@@ -527,73 +528,101 @@ private:
 
 // ---- Serialising -------------------------------------------------------------------------------
 
-// Characters that JSON requires to be escaped: quote, backslash and control characters.
-constexpr bool needs_escape(unsigned char ch) {
-  return ch < 0x20 || ch == '"' || ch == '\\';
-}
+// An output buffer written through a raw cursor: room is made once per piece, not per character.
+class Writer {
+public:
+  explicit Writer(std::string& out) : out_(out) {
+    out_.resize(std::max<std::size_t>(out_.capacity(), 256));
+    pos_ = 0;
+  }
+  Writer(Writer const&) = delete;
+  Writer& operator=(Writer const&) = delete;
+  ~Writer() { out_.resize(pos_); }
 
-void write_string(std::string& out, char const* p, std::size_t n) {
+  char* room(std::size_t n) {
+    if (out_.size() - pos_ < n) {
+      out_.resize(std::max(out_.size() * 2, pos_ + n));
+    }
+    return out_.data() + pos_;
+  }
+  void advance(std::size_t n) { pos_ += n; }
+  void put(char ch) {
+    *room(1) = ch;
+    ++pos_;
+  }
+  void put(char const* p, std::size_t n) {
+    std::memcpy(room(n), p, n);
+    pos_ += n;
+  }
+
+private:
+  std::string& out_;
+  std::size_t pos_;
+};
+
+// For each byte, 0 when it is written as it is, otherwise the letter of its short escape or 'u'.
+// JSON requires escaping only the quote, the backslash and control characters.
+constexpr std::array<char, 256> escape_table = [] {
+  std::array<char, 256> t{};
+  for (int ch = 0; ch < 0x20; ++ch) {
+    t[static_cast<std::size_t>(ch)] = 'u';
+  }
+  t['"'] = '"';
+  t['\\'] = '\\';
+  t['\n'] = 'n';
+  t['\r'] = 'r';
+  t['\t'] = 't';
+  t['\b'] = 'b';
+  t['\f'] = 'f';
+  return t;
+}();
+
+void write_string(Writer& w, char const* p, std::size_t n) {
   static constexpr char hex[] = "0123456789abcdef";
-  out.push_back('"');
-  std::size_t run = 0;
+  // Worst case every byte becomes a six-character escape.
+  char* const begin = w.room(n * 6 + 2);
+  char* o = begin;
+  *o++ = '"';
   for (std::size_t i = 0; i < n; ++i) {
     auto const ch = static_cast<unsigned char>(p[i]);
-    if (!needs_escape(ch)) {
-      continue;
-    }
-    out.append(p + run, i - run);
-    run = i + 1;
-    switch (ch) {
-    case '"':
-      out.append("\\\"", 2);
-      break;
-    case '\\':
-      out.append("\\\\", 2);
-      break;
-    case '\n':
-      out.append("\\n", 2);
-      break;
-    case '\r':
-      out.append("\\r", 2);
-      break;
-    case '\t':
-      out.append("\\t", 2);
-      break;
-    case '\b':
-      out.append("\\b", 2);
-      break;
-    case '\f':
-      out.append("\\f", 2);
-      break;
-    default: {
-      char const esc[6] = {'\\', 'u', '0', '0', hex[ch >> 4U], hex[ch & 0xFU]};
-      out.append(esc, 6);
-    }
+    char const esc = escape_table[ch];
+    if (esc == 0) {
+      *o++ = static_cast<char>(ch);
+    } else if (esc != 'u') {
+      *o++ = '\\';
+      *o++ = esc;
+    } else {
+      *o++ = '\\';
+      *o++ = 'u';
+      *o++ = '0';
+      *o++ = '0';
+      *o++ = hex[ch >> 4U];
+      *o++ = hex[ch & 0xFU];
     }
   }
-  out.append(p + run, n - run);
-  out.push_back('"');
+  *o++ = '"';
+  w.advance(static_cast<std::size_t>(o - begin));
 }
 
-void write_scalar(std::string& out, lcw_data_t const* n) {
+void write_scalar(Writer& w, lcw_data_t const* n) {
   switch (n->kind) {
   case Kind::Null:
-    out.append("null", 4);
+    w.put("null", 4);
     break;
   case Kind::Bool:
     if (n->boolean) {
-      out.append("true", 4);
+      w.put("true", 4);
     } else {
-      out.append("false", 5);
+      w.put("false", 5);
     }
     break;
   case Kind::Int:
   case Kind::UInt:
   case Kind::Double:
-    out.append(n->s.text, n->s.len);
+    w.put(n->s.text, n->s.len);
     break;
   case Kind::String:
-    write_string(out, n->s.text, n->s.len);
+    write_string(w, n->s.text, n->s.len);
     break;
   default:
     break;
@@ -602,32 +631,32 @@ void write_scalar(std::string& out, lcw_data_t const* n) {
 
 // Writes a node and everything below it without recursion: the walk follows first-child, next
 // sibling and parent links, so any depth is safe.
-void write_node(std::string& out, lcw_data_t const* top) {
+void write_node(Writer& out, lcw_data_t const* top) {
   lcw_data_t const* n = top;
   while (true) {
     if (n->parent != nullptr && n != top) {
       if (n != n->parent->c.first) {
-        out.push_back(',');
+        out.put(',');
       }
       if (n->parent->kind == Kind::Object) {
         write_string(out, n->key, n->key_len);
-        out.push_back(':');
+        out.put(':');
       }
     }
     if (n->is_container()) {
-      out.push_back(n->kind == Kind::Object ? '{' : '[');
+      out.put(n->kind == Kind::Object ? '{' : '[');
       if (n->c.first != nullptr) {
         n = n->c.first;
         continue;
       }
-      out.push_back(n->kind == Kind::Object ? '}' : ']');
+      out.put(n->kind == Kind::Object ? '}' : ']');
     } else {
       write_scalar(out, n);
     }
     // Climb until a node with a next sibling, closing the containers left behind.
     while (n != top && n->next == nullptr) {
       n = n->parent;
-      out.push_back(n->kind == Kind::Object ? '}' : ']');
+      out.put(n->kind == Kind::Object ? '}' : ']');
     }
     if (n == top) {
       return;
@@ -743,8 +772,10 @@ char const* cfg_serialize_compact(lcw_data_t const* node) {
     return "";
   }
   Doc* doc = doc_of(node);
-  doc->out.clear();
-  write_node(doc->out, node);
+  {
+    Writer w(doc->out);
+    write_node(w, node);
+  }
   return doc->out.c_str();
 }
 
