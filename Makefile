@@ -1,7 +1,7 @@
 # Quick start:  make demo  |  make test
 # Every target installs the Debian packages it needs first (scripts/install-deps).
 
-.PHONY: all deps build demo test test-release test-asan consumer format format-check clean
+.PHONY: all deps build demo test test-release test-asan consumer bench format format-check clean
 
 all: build
 
@@ -27,6 +27,11 @@ consumer: build
 	scripts/check-consumer build/release
 
 test: test-release test-asan consumer format-check
+
+bench: deps
+	cmake --preset bench
+	cmake --build --preset bench
+	build/bench/bench/wlccw_bench_tree
 
 format:
 	git ls-files '*.hpp' '*.cpp' '*.hpp.in' | xargs clang-format -i

@@ -223,13 +223,16 @@ void reset_value(lcw_data_t* node, Kind kind) {
 }
 
 // The node that a write to member `key` of `parent` fills: the existing member (kept in place), a
-// new member appended to an object, or a new element appended to an array (key null for arrays;
-// a key given for an array is ignored). Null when the parent cannot hold it.
+// new member appended to an object (key given), or a new element appended to an array (key
+// null). Null when the parent cannot hold it: a scalar, an object without a key, an array with one.
 lcw_data_t* slot(lcw_data_t* parent, char const* key) {
   if (parent == nullptr) {
     return nullptr;
   }
   if (parent->kind == Kind::Array) {
+    if (key != nullptr) {
+      return nullptr;
+    }
     auto* node = doc_of(parent)->arena.make<lcw_data_t>();
     append_child(parent, node);
     return node;

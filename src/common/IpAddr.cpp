@@ -1,1 +1,85 @@
-// placeholder
+#include <wlccw/common/IpAddr.hpp>
+
+#include <boost/json/value.hpp>
+#include <boost/json/value_from.hpp>
+#include <boost/json/value_to.hpp>
+
+#include <cstdio>
+
+namespace {
+
+constexpr std::size_t kMaxLength = 15; // "255.255.255.255"
+
+/// Parses text into ip, which holds the default value; leaves it untouched when the text is
+/// refused.
+void parse(char const* text, IpAddr& ip) noexcept {
+  if (text == nullptr) {
+    return;
+  }
+  // One pass over at most kMaxLength + 1 characters: a longer text is refused whatever it holds.
+  bool has_dot = false;
+  std::size_t length = 0;
+  for (; length <= kMaxLength && text[length] != '\0'; ++length) {
+    if (text[length] == '-') {
+      return;
+    }
+    if (text[length] == '.') {
+      has_dot = true;
+    }
+  }
+  if (length > kMaxLength || !has_dot) {
+    return;
+  }
+  short numbers[4] = {};
+  if (std::sscanf(text, "%hi.%hi.%hi.%hi", &numbers[0], &numbers[1], &numbers[2], &numbers[3]) !=
+      4) {
+    return;
+  }
+  for (short const n : numbers) {
+    if (n > 255) {
+      return;
+    }
+  }
+  for (std::size_t i = 0; i < ip.octets.size(); ++i) {
+    ip.octets[i] = static_cast<std::uint8_t>(static_cast<unsigned short>(numbers[i]) & 0xFFU);
+  }
+  ip.valid = true;
+}
+
+/// Writes "%u.%u.%u.%u" of the octets into out; returns the length written.
+std::size_t format(std::array<std::uint8_t, 4> const& octets, char (&out)[64]) noexcept {
+  int const n = std::snprintf(out, sizeof out, "%u.%u.%u.%u", unsigned{octets[0]},
+                              unsigned{octets[1]}, unsigned{octets[2]}, unsigned{octets[3]});
+  return n > 0 ? static_cast<std::size_t>(n) : 0U;
+}
+
+} // namespace
+
+IpAddr& IpAddr::operator=(char const* text) noexcept {
+  *this = IpAddr{};
+  parse(text, *this);
+  return *this;
+}
+
+std::string IpAddr::str() const {
+  char text[64];
+  return std::string(text, format(octets, text));
+}
+
+void tag_invoke(boost::json::value_from_tag, boost::json::value& jv, IpAddr const& ip) {
+  char text[64];
+  std::size_t const length = format(ip.octets, text);
+  jv.emplace_string().assign(text, length);
+}
+
+IpAddr tag_invoke(boost::json::value_to_tag<IpAddr>, boost::json::value const& jv) {
+  IpAddr ip;
+  if (boost::json::string const* text = jv.if_string()) {
+    ip = text->c_str();
+    return ip;
+  }
+  // Not a string: Boost.JSON's own string conversion raises its conversion error.
+  std::string const text = boost::json::value_to<std::string>(jv);
+  ip = text.c_str();
+  return ip;
+}

@@ -110,9 +110,11 @@ WLCCW_EXPORT void cfg_set_uint32_param_opt(lcw_data_t* node, char const* key,
                                            std::optional<unsigned int> const& value);
 
 // ---- Inserting sub-trees and elements (results are borrowed; null on failure) -------------------
+// With a key, the operation sets that member of an object (an existing member is replaced in
+// place); with a null key, it appends to an array. Any other combination fails and changes nothing.
 
-/// Inserts a deep copy of child as member key of an object (appended to an array when key is
-/// null). The caller keeps and releases child.
+/// Inserts a deep copy of child as member key of an object, or appends it to an array when key is
+/// null. The caller keeps and releases child.
 WLCCW_EXPORT lcw_data_t* cfg_insert_child(lcw_data_t* parent, char const* key,
                                           lcw_data_t const* child);
 /// Appends a string to an array (key null), or sets member key of an object.

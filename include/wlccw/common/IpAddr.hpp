@@ -1,1 +1,42 @@
+// An IPv4 address: a validity flag and four octets, with the text form "%u.%u.%u.%u", a parser
+// that never throws and the Boost.JSON conversions.
 #pragma once
+
+#include <wlccw/export.hpp>
+
+#include <boost/json/fwd.hpp>
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+/// An IPv4 address. `valid` is true once a parser accepted a text.
+class WLCCW_EXPORT IpAddr {
+public:
+  /// True once a parser accepted a text; false for the default value and after a failed parse.
+  bool valid = false;
+  /// The address in dotted order: octets[0] is the first number of the text form.
+  std::array<std::uint8_t, 4> octets{};
+
+  /// Not valid, all four octets 0.
+  constexpr IpAddr() noexcept = default;
+
+  /// Resets to the default value, then parses text as four numbers read with the format
+  /// "%hi.%hi.%hi.%hi" (so 0x starts a hexadecimal number, a leading 0 an octal one, spaces before
+  /// a number are skipped and text after the fourth number is ignored). The text is refused, and
+  /// the default value kept, when it is null, holds a "-", holds no ".", is longer than 15
+  /// characters, does not yield four numbers or yields one above 255. Never throws.
+  IpAddr& operator=(char const* text) noexcept;
+
+  /// The four octets as "%u.%u.%u.%u", whatever `valid` says.
+  std::string str() const;
+
+  friend bool operator==(IpAddr const&, IpAddr const&) = default;
+};
+
+/// Stores the JSON string `ip.str()`.
+WLCCW_EXPORT void tag_invoke(boost::json::value_from_tag, boost::json::value& jv, IpAddr const& ip);
+/// Reads a JSON string and parses it as IpAddr::operator= does; a text that is no address gives
+/// the default value. A value that is not a JSON string throws Boost.JSON's conversion error
+/// (boost::system::system_error).
+WLCCW_EXPORT IpAddr tag_invoke(boost::json::value_to_tag<IpAddr>, boost::json::value const& jv);
