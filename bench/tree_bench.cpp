@@ -119,8 +119,43 @@ void BM_TreeReadMembers(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
+// An IPC writer's pattern: one object per client, every member set by name, then the text.
+void BM_TreeWriteObjects(benchmark::State& state) {
+  auto const n = static_cast<std::size_t>(state.range(0));
+  for (auto _ : state) {
+    wlccw::cfg::Tree root = wlccw::cfg::make_array();
+    for (std::size_t i = 0; i < n; ++i) {
+      lcw_data_t* client = cfg_insert_empty_subtree(root.get(), nullptr);
+      for (auto const& key : client_keys()) {
+        cfg_set_param(client, key.c_str(), "value");
+      }
+    }
+    benchmark::DoNotOptimize(cfg_serialize_compact(root.get()));
+  }
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+void BM_BoostWriteObjects(benchmark::State& state) {
+  auto const n = static_cast<std::size_t>(state.range(0));
+  for (auto _ : state) {
+    boost::json::monotonic_resource mr;
+    boost::json::array root(&mr);
+    for (std::size_t i = 0; i < n; ++i) {
+      boost::json::object& client = root.emplace_back(boost::json::object(&mr)).as_object();
+      for (auto const& key : client_keys()) {
+        client[key] = "value";
+      }
+    }
+    std::string out = boost::json::serialize(root);
+    benchmark::DoNotOptimize(out.data());
+  }
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
 } // namespace
 
+BENCHMARK(BM_TreeWriteObjects)->Arg(256);
+BENCHMARK(BM_BoostWriteObjects)->Arg(256);
 BENCHMARK(BM_BoostParseSerialize)->Arg(16)->Arg(256)->Arg(4096);
 BENCHMARK(BM_TreeParseSerialize)->Arg(16)->Arg(256)->Arg(4096);
 BENCHMARK(BM_BoostParse)->Arg(256);
