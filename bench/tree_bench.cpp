@@ -152,9 +152,27 @@ void BM_BoostWriteObjects(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
+// One object of n members written by name: lookups of names an object lacks must not scan it.
+void BM_TreeWriteLargeObject(benchmark::State& state) {
+  auto const n = static_cast<std::size_t>(state.range(0));
+  std::vector<std::string> keys;
+  for (std::size_t i = 0; i < n; ++i) {
+    keys.push_back("member-" + std::to_string(i));
+  }
+  for (auto _ : state) {
+    wlccw::cfg::Tree root = wlccw::cfg::make_object();
+    for (auto const& key : keys) {
+      cfg_set_int_param(root.get(), key.c_str(), 1);
+    }
+    benchmark::DoNotOptimize(root.get());
+  }
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
 } // namespace
 
 BENCHMARK(BM_TreeWriteObjects)->Arg(256);
+BENCHMARK(BM_TreeWriteLargeObject)->Arg(64)->Arg(4096);
 BENCHMARK(BM_BoostWriteObjects)->Arg(256);
 BENCHMARK(BM_BoostParseSerialize)->Arg(16)->Arg(256)->Arg(4096);
 BENCHMARK(BM_TreeParseSerialize)->Arg(16)->Arg(256)->Arg(4096);

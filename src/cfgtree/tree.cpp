@@ -1,17 +1,21 @@
-// The default tree backend: the configuration-tree interface implemented on Boost.JSON's event
-// parser.
+// The default tree backend: the configuration-tree interface implemented on
+// Boost.JSON's event parser.
 //
-// Every root owns an arena. Nodes, keys and texts are bump-allocated in it and never move, so a
-// borrowed node keeps its address until the root is released, whatever is inserted elsewhere.
-// Containers are singly linked lists of their children (first, last, next sibling), which keeps
-// insertion order and makes appending O(1). Object lookups start from the member after the last
-// one found, so reading the members of an object in document order costs O(1) per member.
+// Every root owns an arena. Nodes, keys and texts are bump-allocated in it and
+// never move, so a borrowed node keeps its address until the root is released,
+// whatever is inserted elsewhere. Containers are singly linked lists of their
+// children (first, last, next sibling), which keeps insertion order and makes
+// appending O(1). Object lookups start from the member after the last one
+// found, so reading the members of an object in document order costs O(1) per
+// member.
 //
-// Scalars keep their text: a string its bytes (any bytes; NUL-terminated for the char const*
-// interface), a number the text it was read from or written as. Serialising therefore writes
-// numbers back exactly as they came, and cfg_get_param of a number is its text without formatting.
+// Scalars keep their text: a string its bytes (any bytes; NUL-terminated for
+// the char const* interface), a number the text it was read from or written as.
+// Serialising therefore writes numbers back exactly as they came, and
+// cfg_get_param of a number is its text without formatting.
 //
-// A tree is used by one thread at a time: lookups update the object's search hint.
+// A tree is used by one thread at a time: lookups update the object's search
+// hint.
 
 #include <wlccw/cfg/tree.hpp>
 
@@ -37,6 +41,8 @@ namespace {
 
 enum class Kind : std::uint8_t { Null, Bool, Int, UInt, Double, String, Array, Object };
 
+struct MemberIndex;
+
 } // namespace
 
 // A node. Members are reached only through the functions of this file.
@@ -50,7 +56,8 @@ struct lcw_data_t {
   struct Children {
     lcw_data_t* first;
     lcw_data_t* last;
-    lcw_data_t* hint; // the member where the next lookup starts (objects)
+    lcw_data_t* hint;   // the member where the next lookup starts (objects)
+    MemberIndex* index; // hash index of the members of a large object, or null
   };
   struct Text {
     char const* text; // NUL-terminated string bytes or number text
@@ -65,7 +72,7 @@ struct lcw_data_t {
     Text s;     // strings and numbers
   };
 
-  lcw_data_t() : c{nullptr, nullptr, nullptr} {}
+  lcw_data_t() : c{nullptr, nullptr, nullptr, nullptr} {}
   bool is_container() const noexcept { return kind == Kind::Array || kind == Kind::Object; }
 };
 
@@ -79,7 +86,8 @@ struct lcw_object_iterator_t {
 
 namespace {
 
-// ---- Arena -------------------------------------------------------------------------------------
+// ---- Arena
+// -------------------------------------------------------------------------------------
 
 class Arena {
 public:
@@ -167,7 +175,78 @@ Doc* new_doc(Kind kind) {
 constexpr std::size_t max_depth = 512;
 constexpr std::size_t max_text_len = std::numeric_limits<std::uint32_t>::max() - 1;
 
-// ---- Structure ---------------------------------------------------------------------------------
+// ---- Structure
+// ---------------------------------------------------------------------------------
+
+// An open-addressing table of an object's members by name, built once a lookup
+// has had to scan many members: objects that are read in document order never
+// need one, objects that are written member by member or searched for names
+// they lack get O(1) lookups instead of a scan each. Of members with the same
+// name, the first one is indexed.
+struct MemberIndex {
+  std::size_t mask; // capacity - 1; the capacity is a power of two, at least
+                    // twice the count
+  std::size_t count;
+  lcw_data_t** slots;
+};
+
+constexpr std::size_t index_after_scanning = 64;
+
+std::size_t key_hash(char const* p, std::size_t n) {
+  std::uint64_t h = 14695981039346656037ULL; // FNV-1a
+  for (std::size_t i = 0; i < n; ++i) {
+    h ^= static_cast<unsigned char>(p[i]);
+    h *= 1099511628211ULL;
+  }
+  return static_cast<std::size_t>(h ^ (h >> 32U));
+}
+
+bool key_is(lcw_data_t const* member, char const* key, std::size_t len) {
+  return member->key_len == len && std::memcmp(member->key, key, len) == 0;
+}
+
+lcw_data_t* index_find(MemberIndex const* ix, char const* key, std::size_t len) {
+  for (std::size_t i = key_hash(key, len) & ix->mask;; i = (i + 1) & ix->mask) {
+    lcw_data_t* m = ix->slots[i];
+    if (m == nullptr || key_is(m, key, len)) {
+      return m;
+    }
+  }
+}
+
+void index_put(MemberIndex* ix, lcw_data_t* member) {
+  for (std::size_t i = key_hash(member->key, member->key_len) & ix->mask;; i = (i + 1) & ix->mask) {
+    lcw_data_t*& slot = ix->slots[i];
+    if (slot == nullptr) {
+      slot = member;
+      ++ix->count;
+      return;
+    }
+    if (key_is(slot, member->key, member->key_len)) {
+      return; // the first member of that name stays indexed
+    }
+  }
+}
+
+// A new table for the object's members, with room for at least `members` of
+// them.
+MemberIndex* build_index(Arena& arena, lcw_data_t* object, std::size_t members) {
+  std::size_t capacity = 32;
+  while (capacity < members * 4) {
+    capacity *= 2;
+  }
+  auto* ix = arena.make<MemberIndex>();
+  ix->mask = capacity - 1;
+  ix->count = 0;
+  ix->slots = static_cast<lcw_data_t**>(
+      arena.allocate(capacity * sizeof(lcw_data_t*), alignof(lcw_data_t*)));
+  std::memset(static_cast<void*>(ix->slots), 0, capacity * sizeof(lcw_data_t*));
+  for (lcw_data_t* m = object->c.first; m != nullptr; m = m->next) {
+    index_put(ix, m);
+  }
+  object->c.index = ix;
+  return ix;
+}
 
 void append_child(lcw_data_t* parent, lcw_data_t* child) {
   child->parent = parent;
@@ -178,32 +257,63 @@ void append_child(lcw_data_t* parent, lcw_data_t* child) {
     parent->c.last->next = child;
   }
   parent->c.last = child;
+  if (MemberIndex* ix = parent->c.index) {
+    if ((ix->count + 1) * 2 > ix->mask + 1) {
+      build_index(doc_of(parent)->arena, parent,
+                  ix->count + 1); // grows; the old table is left
+    } else {
+      index_put(ix, child);
+    }
+  }
 }
 
-bool key_is(lcw_data_t const* member, char const* key, std::size_t len) {
-  return member->key_len == len && std::memcmp(member->key, key, len) == 0;
+void hint_after(lcw_data_t* object, lcw_data_t* found) {
+  object->c.hint = found->next != nullptr ? found->next : found;
 }
 
-// The member with the given name, searched from the hint to the end and then from the start.
+// The member with the given name. The hint is tried first (reading in document
+// order hits it), then the index if the object has one, else a scan from the
+// hint to the end and on from the start.
 lcw_data_t* find_member(lcw_data_t const* node, char const* key, std::size_t len) {
   if (node == nullptr || key == nullptr || node->kind != Kind::Object) {
     return nullptr;
   }
   auto* object = const_cast<lcw_data_t*>(node);
-  lcw_data_t* start = object->c.hint != nullptr ? object->c.hint : object->c.first;
-  for (lcw_data_t* m = start; m != nullptr; m = m->next) {
-    if (key_is(m, key, len)) {
-      object->c.hint = m->next != nullptr ? m->next : m;
-      return m;
+  lcw_data_t* const start = object->c.hint != nullptr ? object->c.hint : object->c.first;
+  if (start == nullptr) {
+    return nullptr;
+  }
+  if (key_is(start, key, len)) {
+    hint_after(object, start);
+    return start;
+  }
+  lcw_data_t* found = nullptr;
+  if (object->c.index != nullptr) {
+    found = index_find(object->c.index, key, len);
+  } else {
+    std::size_t scanned = 0;
+    for (lcw_data_t* m = start->next; m != nullptr && found == nullptr; m = m->next, ++scanned) {
+      if (key_is(m, key, len)) {
+        found = m;
+      }
+    }
+    for (lcw_data_t* m = object->c.first; m != start && found == nullptr; m = m->next, ++scanned) {
+      if (key_is(m, key, len)) {
+        found = m;
+      }
+    }
+    if (scanned >= index_after_scanning) {
+      std::size_t members = 0;
+      for (lcw_data_t const* m = object->c.first; m != nullptr; m = m->next) {
+        ++members;
+      }
+      build_index(doc_of(object)->arena, object, members);
     }
   }
-  for (lcw_data_t* m = object->c.first; m != start; m = m->next) {
-    if (key_is(m, key, len)) {
-      object->c.hint = m->next != nullptr ? m->next : m;
-      return m;
-    }
+  if (found != nullptr) {
+    hint_after(object, found);
   }
-  return nullptr;
+  return found;
 }
 
 lcw_data_t* find_member(lcw_data_t const* node, char const* key) {
@@ -213,18 +323,21 @@ lcw_data_t* find_member(lcw_data_t const* node, char const* key) {
   return find_member(node, key, std::strlen(key));
 }
 
-// Turns a node into an empty value of the given kind, keeping its place and name.
+// Turns a node into an empty value of the given kind, keeping its place and
+// name.
 void reset_value(lcw_data_t* node, Kind kind) {
   node->kind = kind;
   node->boolean = false;
   node->c.first = nullptr;
   node->c.last = nullptr;
   node->c.hint = nullptr;
+  node->c.index = nullptr;
 }
 
-// The node that a write to member `key` of `parent` fills: the existing member (kept in place), a
-// new member appended to an object (key given), or a new element appended to an array (key
-// null). Null when the parent cannot hold it: a scalar, an object without a key, an array with one.
+// The node that a write to member `key` of `parent` fills: the existing member
+// (kept in place), a new member appended to an object (key given), or a new
+// element appended to an array (key null). Null when the parent cannot hold it:
+// a scalar, an object without a key, an array with one.
 lcw_data_t* slot(lcw_data_t* parent, char const* key) {
   if (parent == nullptr) {
     return nullptr;
@@ -254,7 +367,8 @@ lcw_data_t* slot(lcw_data_t* parent, char const* key) {
   return node;
 }
 
-// ---- Scalars -----------------------------------------------------------------------------------
+// ---- Scalars
+// -----------------------------------------------------------------------------------
 
 void set_string(lcw_data_t* node, char const* text, std::size_t len) {
   reset_value(node, Kind::String);
@@ -299,8 +413,8 @@ char const* scalar_text(lcw_data_t const* node) {
   }
 }
 
-// An integer value of a node: a JSON integer, or a string whose whole text is one decimal integer
-// with an optional leading "-".
+// An integer value of a node: a JSON integer, or a string whose whole text is
+// one decimal integer with an optional leading "-".
 struct Integer {
   bool negative;     // value is -magnitude
   std::uint64_t mag; // magnitude
@@ -382,7 +496,8 @@ template <typename T> void set_member_integer(lcw_data_t* node, char const* key,
   }
 }
 
-// ---- Parsing -----------------------------------------------------------------------------------
+// ---- Parsing
+// -----------------------------------------------------------------------------------
 
 class Builder {
 public:
@@ -529,9 +644,11 @@ private:
   std::size_t reserve_ = 0;
 };
 
-// ---- Serialising -------------------------------------------------------------------------------
+// ---- Serialising
+// -------------------------------------------------------------------------------
 
-// An output buffer written through a raw cursor: room is made once per piece, not per character.
+// An output buffer written through a raw cursor: room is made once per piece,
+// not per character.
 class Writer {
 public:
   explicit Writer(std::string& out) : out_(out) {
@@ -563,8 +680,9 @@ private:
   std::size_t pos_;
 };
 
-// For each byte, 0 when it is written as it is, otherwise the letter of its short escape or 'u'.
-// JSON requires escaping only the quote, the backslash and control characters.
+// For each byte, 0 when it is written as it is, otherwise the letter of its
+// short escape or 'u'. JSON requires escaping only the quote, the backslash and
+// control characters.
 constexpr std::array<char, 256> escape_table = [] {
   std::array<char, 256> t{};
   for (int ch = 0; ch < 0x20; ++ch) {
@@ -632,8 +750,8 @@ void write_scalar(Writer& w, lcw_data_t const* n) {
   }
 }
 
-// Writes a node and everything below it without recursion: the walk follows first-child, next
-// sibling and parent links, so any depth is safe.
+// Writes a node and everything below it without recursion: the walk follows
+// first-child, next sibling and parent links, so any depth is safe.
 void write_node(Writer& out, lcw_data_t const* top) {
   lcw_data_t const* n = top;
   while (true) {
@@ -656,7 +774,8 @@ void write_node(Writer& out, lcw_data_t const* top) {
     } else {
       write_scalar(out, n);
     }
-    // Climb until a node with a next sibling, closing the containers left behind.
+    // Climb until a node with a next sibling, closing the containers left
+    // behind.
     while (n != top && n->next == nullptr) {
       n = n->parent;
       out.put(n->kind == Kind::Object ? '}' : ']');
@@ -668,7 +787,8 @@ void write_node(Writer& out, lcw_data_t const* top) {
   }
 }
 
-// ---- Copying -----------------------------------------------------------------------------------
+// ---- Copying
+// -----------------------------------------------------------------------------------
 
 bool is_scalar_with_text(Kind kind) {
   return kind == Kind::String || kind == Kind::Int || kind == Kind::UInt || kind == Kind::Double;
@@ -684,8 +804,8 @@ void copy_scalar(Arena& arena, lcw_data_t* d, lcw_data_t const* s) {
   }
 }
 
-// Copies the value of src (not its name) into dst, where dst is not src nor inside it. Iterative
-// for the same reason as write_node.
+// Copies the value of src (not its name) into dst, where dst is not src nor
+// inside it. Iterative for the same reason as write_node.
 void copy_disjoint(lcw_data_t* dst, lcw_data_t const* src) {
   Arena& arena = doc_of(dst)->arena;
   copy_scalar(arena, dst, src);
@@ -707,7 +827,8 @@ void copy_disjoint(lcw_data_t* dst, lcw_data_t const* src) {
       cur = cur->c.first;
       continue;
     }
-    // Climb until a source node with a next sibling; the destination climbs alongside.
+    // Climb until a source node with a next sibling; the destination climbs
+    // alongside.
     while (cur != src && cur->next == nullptr) {
       cur = cur->parent;
       dparent = dparent->parent;
@@ -729,8 +850,8 @@ bool contains(lcw_data_t const* outer, lcw_data_t const* node) {
   return false;
 }
 
-// Copies the value of src into dst. When dst is src itself or lies inside it, src is first copied
-// aside, so the copy never reads what it is writing.
+// Copies the value of src into dst. When dst is src itself or lies inside it,
+// src is first copied aside, so the copy never reads what it is writing.
 void copy_value(lcw_data_t* dst, lcw_data_t const* src) {
   if (contains(src, dst)) {
     std::unique_ptr<Doc> aside(new Doc());
@@ -743,7 +864,8 @@ void copy_value(lcw_data_t* dst, lcw_data_t const* src) {
 
 } // namespace
 
-// ==== The interface =============================================================================
+// ==== The interface
+// =============================================================================
 
 lcw_data_t* cfg_get_empty() {
   return new_doc(Kind::Object);
@@ -806,7 +928,8 @@ int cfg_is_empty(lcw_data_t const* node) {
   return node->c.first == nullptr ? 1 : 0;
 }
 
-// ---- Reading members ---------------------------------------------------------------------------
+// ---- Reading members
+// ---------------------------------------------------------------------------
 
 int cfg_contain_param(lcw_data_t const* node, char const* key) {
   return find_member(node, key) != nullptr ? 1 : 0;
@@ -903,7 +1026,8 @@ lcw_data_t* cfg_get_subtree_from_path(lcw_data_t const* node, char const* path) 
   return cur;
 }
 
-// ---- Reading a scalar node ---------------------------------------------------------------------
+// ---- Reading a scalar node
+// ---------------------------------------------------------------------
 
 char const* cfg_object_to_string(lcw_data_t const* node) {
   return scalar_text(node);
@@ -913,7 +1037,8 @@ std::optional<int> cfg_object_to_int_opt(lcw_data_t const* node) {
   return integer_as<int>(node);
 }
 
-// ---- Writing members ---------------------------------------------------------------------------
+// ---- Writing members
+// ---------------------------------------------------------------------------
 
 void cfg_set_param(lcw_data_t* node, char const* key, char const* value) {
   if (lcw_data_t* m = slot(node, key)) {
@@ -990,13 +1115,15 @@ void cfg_set_uint32_param_opt(lcw_data_t* node, char const* key,
   }
 }
 
-// ---- Inserting ---------------------------------------------------------------------------------
+// ---- Inserting
+// ---------------------------------------------------------------------------------
 
 lcw_data_t* cfg_insert_child(lcw_data_t* parent, char const* key, lcw_data_t const* child) {
   if (child == nullptr) {
     return nullptr;
   }
-  // Inserting a tree into itself copies the tree as it was before the insertion.
+  // Inserting a tree into itself copies the tree as it was before the
+  // insertion.
   std::unique_ptr<Doc> aside;
   if (contains(child, parent)) {
     aside.reset(new Doc());
@@ -1057,7 +1184,8 @@ lcw_data_t* cfg_insert_empty_array_or_exists(lcw_data_t* parent, char const* key
   return cfg_insert_empty_array(parent, key);
 }
 
-// ---- Iterating ---------------------------------------------------------------------------------
+// ---- Iterating
+// ---------------------------------------------------------------------------------
 
 lcw_array_iterator_t* cfg_alloc_array_iterator(lcw_data_t const* array) {
   if (array == nullptr || array->kind != Kind::Array) {

@@ -619,3 +619,49 @@ TEST(CfgPointerStability, NodesFromAnEarlierParseSurviveGrowthOfTheSameArray) {
 }
 
 } // namespace
+
+namespace {
+
+// Large objects are looked up through a hash index once a scan grows long; every way of reaching
+// a member must keep giving the right one.
+TEST(CfgLargeObject, EveryMemberIsFoundInAnyOrderAndMissingOnesAreNot) {
+  Tree root = make_object();
+  ASSERT_TRUE(root);
+  constexpr int members = 3000;
+  for (int i = 0; i < members; ++i) {
+    cfg_set_int_param(root.get(), ("m" + std::to_string(i)).c_str(), i);
+  }
+  for (int i = members - 1; i >= 0; i -= 7) {
+    EXPECT_EQ(cfg_get_int_param(root.get(), ("m" + std::to_string(i)).c_str()), i);
+  }
+  EXPECT_EQ(cfg_contain_param(root.get(), "m3000"), 0);
+  EXPECT_EQ(cfg_contain_param(root.get(), ""), 0);
+
+  // Replacing a member keeps its place; the text lists the members in insertion order.
+  cfg_set_param(root.get(), "m5", "five");
+  EXPECT_STREQ(cfg_get_param(root.get(), "m5"), "five");
+  std::string const text = compact(root.get());
+  EXPECT_EQ(text.substr(0, 36), R"({"m0":0,"m1":1,"m2":2,"m3":3,"m4":4,)");
+  EXPECT_EQ(text.substr(36, 14), R"("m5":"five","m)");
+  EXPECT_EQ(text.substr(text.size() - 13), R"("m2999":2999})");
+}
+
+TEST(CfgLargeObject, ParsedObjectsAreSearchedTheSameWay) {
+  std::string text = "{";
+  for (int i = 0; i < 500; ++i) {
+    text += (i != 0 ? ",\"k" : "\"k") + std::to_string(i) + "\":" + std::to_string(i * 2);
+  }
+  text += "}";
+  Tree root = parse(text);
+  ASSERT_TRUE(root);
+  for (int i = 499; i >= 0; --i) {
+    ASSERT_EQ(cfg_get_int_param(root.get(), ("k" + std::to_string(i)).c_str()), i * 2) << i;
+  }
+  EXPECT_EQ(cfg_get_param_opt(root.get(), "k500"), std::nullopt);
+  // Members appended after the index was built are found too.
+  cfg_set_int_param(root.get(), "late", 7);
+  EXPECT_EQ(cfg_get_int_param(root.get(), "late"), 7);
+  EXPECT_EQ(compact(root.get()).substr(text.size() - 1), R"(,"late":7})");
+}
+
+} // namespace
