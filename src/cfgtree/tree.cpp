@@ -542,15 +542,7 @@ public:
   }
   bool on_string(string_view s, std::size_t, error_code&) {
     lcw_data_t* n = value(Kind::String);
-    if (part_.empty()) {
-      n->s.text = doc_->arena.copy(s.data(), s.size());
-      n->s.len = static_cast<std::uint32_t>(s.size());
-    } else {
-      part_.append(s.data(), s.size());
-      n->s.text = doc_->arena.copy(part_.data(), part_.size());
-      n->s.len = static_cast<std::uint32_t>(part_.size());
-      part_.clear();
-    }
+    n->s.text = finish_text(s, n->s.len);
     return true;
   }
 
@@ -559,15 +551,7 @@ public:
     return true;
   }
   bool on_key(string_view s, std::size_t, error_code&) {
-    if (part_.empty()) {
-      key_ = doc_->arena.copy(s.data(), s.size());
-      key_len_ = static_cast<std::uint32_t>(s.size());
-    } else {
-      part_.append(s.data(), s.size());
-      key_ = doc_->arena.copy(part_.data(), part_.size());
-      key_len_ = static_cast<std::uint32_t>(part_.size());
-      part_.clear();
-    }
+    key_ = finish_text(s, key_len_);
     return true;
   }
 
@@ -624,16 +608,24 @@ private:
 
   lcw_data_t* number(Kind kind, string_view s) {
     lcw_data_t* n = value(kind);
+    n->s.text = finish_text(s, n->s.len);
+    return n;
+  }
+
+  // The arena copy of a string, key or number whose last piece is s: the parser hands over texts
+  // that escapes or buffer ends split as earlier pieces, gathered in part_.
+  char const* finish_text(string_view s, std::uint32_t& len) {
+    char const* text = nullptr;
     if (part_.empty()) {
-      n->s.text = doc_->arena.copy(s.data(), s.size());
-      n->s.len = static_cast<std::uint32_t>(s.size());
+      text = doc_->arena.copy(s.data(), s.size());
+      len = static_cast<std::uint32_t>(s.size());
     } else {
       part_.append(s.data(), s.size());
-      n->s.text = doc_->arena.copy(part_.data(), part_.size());
-      n->s.len = static_cast<std::uint32_t>(part_.size());
+      text = doc_->arena.copy(part_.data(), part_.size());
+      len = static_cast<std::uint32_t>(part_.size());
       part_.clear();
     }
-    return n;
+    return text;
   }
 
   Doc* doc_ = nullptr;

@@ -1,5 +1,7 @@
 #include <wlccw/common/MacAddr.hpp>
 
+#include "detail/hex.hpp"
+
 #include <boost/json/value.hpp>
 #include <boost/json/value_from.hpp>
 #include <boost/json/value_to.hpp>
@@ -11,19 +13,7 @@ namespace {
 constexpr unsigned long kColonLength = 17; // "aa:bb:cc:dd:ee:ff"
 constexpr unsigned long kBareLength = 12;  // "aabbccddeeff"
 
-/// The value of one hexadecimal digit of either case, or -1.
-constexpr int hex_value(char c) noexcept {
-  if (c >= '0' && c <= '9') {
-    return c - '0';
-  }
-  if (c >= 'a' && c <= 'f') {
-    return c - 'a' + 10;
-  }
-  if (c >= 'A' && c <= 'F') {
-    return c - 'A' + 10;
-  }
-  return -1;
-}
+using wlccw::detail::hex_value;
 
 /// Writes the 17-character text form (no terminator) into out.
 void write_text(std::array<unsigned char, 6> const& bytes, char* out) noexcept {

@@ -1,23 +1,11 @@
 #include <wlccw/common/html.hpp>
 
+#include "detail/hex.hpp"
+
 #include <utility>
 
 namespace wlccw::detail {
 namespace {
-
-/// The value of a hexadecimal digit of either case, or -1.
-constexpr int hex_digit(char c) noexcept {
-  if (c >= '0' && c <= '9') {
-    return c - '0';
-  }
-  if (c >= 'a' && c <= 'f') {
-    return c - 'a' + 10;
-  }
-  if (c >= 'A' && c <= 'F') {
-    return c - 'A' + 10;
-  }
-  return -1;
-}
 
 /// First step of the cleaner: copies the text, except that a byte escape "&#x" + one or two
 /// hexadecimal digits + ";" becomes the one byte it names. An escape is only looked for where at
@@ -34,7 +22,7 @@ std::string decode_html_bytes(std::string_view text) {
       int value = 0;
       std::size_t digits_end = i + 3;
       while (digits_end < i + 5) {
-        int const digit = hex_digit(text[digits_end]);
+        int const digit = hex_value(text[digits_end]);
         if (digit < 0) {
           break;
         }

@@ -1,5 +1,7 @@
 #include <wlccw/common/Version.hpp>
 
+#include "support/texts.hpp"
+
 #include <gtest/gtest.h>
 
 #include <optional>
@@ -229,17 +231,7 @@ TEST(VersionRaw, LongTextsParseWithoutDeepRecursion) {
 
 TEST(VersionRaw, MatchesTheRegularExpressionOnEveryShortText) {
   std::string const alphabet{"019.\n\r\0 -+a"s};
-  std::vector<std::string> texts{""};
-  std::size_t level_begin = 0;
-  for (std::size_t length = 1; length <= 5; ++length) {
-    std::size_t const level_end = texts.size();
-    for (std::size_t i = level_begin; i < level_end; ++i) {
-      for (char const c : alphabet) {
-        texts.push_back(texts[i] + c);
-      }
-    }
-    level_begin = level_end;
-  }
+  std::vector<std::string> const texts = wlccw::test::all_texts(alphabet, 5);
   for (std::string const& text : texts) {
     ASSERT_EQ(parse_outcome(text), reference_outcome(text)) << show(text);
   }

@@ -1,5 +1,7 @@
 #include <wlccw/common/html.hpp>
 
+#include "support/texts.hpp"
+
 #include <gtest/gtest.h>
 
 #include <cctype>
@@ -182,17 +184,7 @@ TEST(DecodeHtmlSafe, NulTerminatedTextEndsAtTheTerminator) {
 
 TEST(DecodeHtmlSafe, MatchesTwoSeparatePassesOnEveryShortText) {
   std::string const alphabet{"&#x4f;\n\x7f\xc3"};
-  std::vector<std::string> texts{""};
-  std::size_t level_begin = 0;
-  for (std::size_t length = 1; length <= 6; ++length) {
-    std::size_t const level_end = texts.size();
-    for (std::size_t i = level_begin; i < level_end; ++i) {
-      for (char const c : alphabet) {
-        texts.push_back(texts[i] + c);
-      }
-    }
-    level_begin = level_end;
-  }
+  std::vector<std::string> const texts = wlccw::test::all_texts(alphabet, 6);
   for (std::string const& text : texts) {
     ASSERT_EQ(decode_html_safe(std::string_view(text)), reference_clean(text)) << text;
   }

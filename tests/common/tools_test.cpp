@@ -1,6 +1,8 @@
 #include <wlccw/common/tools.hpp>
 
+#include "support/texts.hpp"
 #include <gmock/gmock.h>
+
 #include <gtest/gtest.h>
 
 #include <arpa/inet.h>
@@ -33,21 +35,7 @@ std::vector<std::string> getline_pieces(std::string const& text, char delimiter)
   return pieces;
 }
 
-// Every text of length up to max_length over the alphabet.
-std::vector<std::string> all_texts(std::string const& alphabet, std::size_t max_length) {
-  std::vector<std::string> texts{""};
-  std::size_t level_begin = 0;
-  for (std::size_t length = 1; length <= max_length; ++length) {
-    std::size_t const level_end = texts.size();
-    for (std::size_t i = level_begin; i < level_end; ++i) {
-      for (char const c : alphabet) {
-        texts.push_back(texts[i] + c);
-      }
-    }
-    level_begin = level_end;
-  }
-  return texts;
-}
+using wlccw::test::all_texts;
 
 std::string random_text(std::mt19937& rng, std::string const& alphabet, std::size_t max_length) {
   std::uniform_int_distribution<std::size_t> length(0, max_length);
