@@ -19,5 +19,50 @@
 #include <wlccw/common/html.hpp>
 #include <wlccw/common/tools.hpp>
 
+// Enumeration dictionaries.
+#include <wlccw/enums/APState.hpp>
+#include <wlccw/enums/ApIndicationAction.hpp>
+#include <wlccw/enums/ApProfileRadioBand.hpp>
+#include <wlccw/enums/ApSaStage.hpp>
+#include <wlccw/enums/AuthPortalClientStatus.hpp>
+#include <wlccw/enums/ClientAuthAlgorithm.hpp>
+#include <wlccw/enums/ClientConnectedEventType.hpp>
+#include <wlccw/enums/ClientCportalEventType.hpp>
+#include <wlccw/enums/ClientDisconnectedEventType.hpp>
+#include <wlccw/enums/ClientEapMethod.hpp>
+#include <wlccw/enums/ClientFailAuthStep.hpp>
+#include <wlccw/enums/ClientFailEventType.hpp>
+#include <wlccw/enums/ClientIpChangedEventType.hpp>
+#include <wlccw/enums/ClientMacAuthEventType.hpp>
+#include <wlccw/enums/ClientMacAuthReason.hpp>
+#include <wlccw/enums/ClientMacAuthStatus.hpp>
+#include <wlccw/enums/ClientPortalAuthStatus.hpp>
+#include <wlccw/enums/ClientRoamingEventType.hpp>
+#include <wlccw/enums/ClientWirelessMode.hpp>
+#include <wlccw/enums/ClientWlanAuthMethod.hpp>
+#include <wlccw/enums/ClientWlanAuthStatus.hpp>
+#include <wlccw/enums/FwVersionChecked.hpp>
+#include <wlccw/enums/IncomingConnections.hpp>
+#include <wlccw/enums/IpcMsgCfgState.hpp>
+#include <wlccw/enums/IpcMsgCheckApVerdict.hpp>
+#include <wlccw/enums/IpcMsgStatus.hpp>
+#include <wlccw/enums/IpcStopReason.hpp>
+#include <wlccw/enums/MacAuthMode.hpp>
+#include <wlccw/enums/MacFilterAction.hpp>
+#include <wlccw/enums/PowerSupply.hpp>
+#include <wlccw/enums/RadioBand.hpp>
+#include <wlccw/enums/SaCertErrorCodes.hpp>
+#include <wlccw/enums/SecurityMode.hpp>
+#include <wlccw/enums/VelmoraMsgType.hpp>
+#include <wlccw/enums/VelmoraRespStatus.hpp>
+#include <wlccw/enums/VrrpRole.hpp>
+#include <wlccw/enums/WidsClientBannedAuthMethod.hpp>
+#include <wlccw/enums/WidsClientBannedEAPMethod.hpp>
+#include <wlccw/enums/WidsDetectedRogueReason.hpp>
+#include <wlccw/enums/WidsDosAttack.hpp>
+#include <wlccw/enums/WidsDosPacket.hpp>
+#include <wlccw/enums/mfp_Mode.hpp>
+#include <wlccw/enums/radio_Band.hpp>
+
 // Controller service messages.
 #include <wlccw/ipc/ApWidsMacLists.hpp>

@@ -1,0 +1,20 @@
+// The outcome of a request to the radio-optimisation service.
+#pragma once
+
+#include <wlccw/export.hpp>
+
+#include <cstdint>
+#include <string_view>
+
+enum class VelmoraRespStatus : std::int32_t {
+  SUCCESS,
+  FAILURE,
+  UNKNOWN,
+};
+
+/// The outcome named by the text ("success", "failure", "UNKNOWN", exactly, up to the first NUL);
+/// UNKNOWN for any other text.
+WLCCW_EXPORT VelmoraRespStatus VelmoraRespStatusFromStrX(std::string_view text);
+/// The name of the outcome; "UNKNOWN" for UNKNOWN and any value past it. Never null; static
+/// storage.
+WLCCW_EXPORT char const* VelmoraRespStatusToStrX(VelmoraRespStatus value);
