@@ -64,5 +64,11 @@
 #include <wlccw/enums/mfp_Mode.hpp>
 #include <wlccw/enums/radio_Band.hpp>
 
+// Wireless client model.
+#include <wlccw/client/APClientData.hpp>
+#include <wlccw/client/AntennaSignalMetrics.hpp>
+#include <wlccw/client/Mlo.hpp>
+#include <wlccw/client/radio_signal.hpp>
+
 // Controller service messages.
 #include <wlccw/ipc/ApWidsMacLists.hpp>

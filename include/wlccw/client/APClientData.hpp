@@ -1,0 +1,182 @@
+// The record of one wireless client as one access point reports it: identity, band and channel,
+// per-antenna signal, authentication state, traffic counters and multi-link data.
+#pragma once
+
+#include <wlccw/client/AntennaSignalMetrics.hpp>
+#include <wlccw/client/Mlo.hpp>
+#include <wlccw/common/IpAddr.hpp>
+#include <wlccw/common/MacAddr.hpp>
+#include <wlccw/enums/ApProfileRadioBand.hpp>
+#include <wlccw/enums/ClientAuthAlgorithm.hpp>
+#include <wlccw/enums/ClientEapMethod.hpp>
+#include <wlccw/enums/ClientMacAuthStatus.hpp>
+#include <wlccw/enums/ClientPortalAuthStatus.hpp>
+#include <wlccw/enums/ClientWirelessMode.hpp>
+#include <wlccw/enums/ClientWlanAuthMethod.hpp>
+#include <wlccw/enums/ClientWlanAuthStatus.hpp>
+#include <wlccw/enums/radio_Band.hpp>
+#include <wlccw/export.hpp>
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+
+/// One wireless client (station) as one AP reports it. A plain value: copyable, assignable and
+/// comparable; it owns every member by value and holds no pointer into a tree.
+///
+/// A record is born valid: its MAC address is valid and its interface and SSID are not empty
+/// (the constructor refuses anything else). Every other fact is public state, empty until an
+/// import, a merge or the owner fills it.
+class WLCCW_EXPORT APClientData {
+public:
+  /// Traffic counters of both directions.
+  struct Statistics {
+    /// Traffic counters of one direction as the AP reports them.
+    struct Statistic {
+      /// Zero counters and rate, no texts. Written out rather than left to default member
+      /// initialisers: those of a nested class are only known once the enclosing class is complete,
+      /// which some compilers take as "not default-constructible" when std::optional<Statistics>
+      /// below is instantiated (statistics.emplace() would then not compile).
+      Statistic() noexcept : actual_rate(0), bytes(0), packets(0) {}
+
+      /// Current data rate as a number.
+      std::int32_t actual_rate;
+      /// Rate text as reported.
+      std::optional<std::string> rate;
+      /// Modulation text as reported.
+      std::optional<std::string> modulation;
+      /// Numeric rate text as reported.
+      std::optional<std::string> rate_numeric;
+      /// Channel bandwidth text as reported.
+      std::optional<std::string> bandwidth;
+      /// Byte counter.
+      std::int32_t bytes;
+      /// Packet counter.
+      std::int32_t packets;
+
+      /// Member by member in declaration order; an empty optional equals only an empty one.
+      friend bool operator==(Statistic const&, Statistic const&) = default;
+      /// The negation of ==.
+      friend bool operator!=(Statistic const& a, Statistic const& b) { return !(a == b); }
+    };
+
+    /// Transmit direction.
+    Statistic tx;
+    /// Receive direction.
+    Statistic rx;
+
+    /// tx equal and rx equal.
+    friend bool operator==(Statistics const&, Statistics const&) = default;
+    /// The negation of ==.
+    friend bool operator!=(Statistics const& a, Statistics const& b) { return !(a == b); }
+  };
+
+  /// Client MAC address; valid in every record the constructor made.
+  MacAddr mac;
+  /// AP interface the client is associated on; never empty.
+  std::string interface;
+  /// SSID of the client's network; never empty.
+  std::string ssid;
+  /// Client IPv4 address; not valid (not set) after construction.
+  IpAddr ip;
+  /// Band the client uses (2G, 5G, 6G).
+  std::optional<radio::Band> band;
+  /// VLAN of the client.
+  std::optional<std::uint32_t> vlan_id;
+  /// Client host name.
+  std::optional<std::string> hostname;
+  /// Authenticated user name.
+  std::optional<std::string> username;
+  /// The user's domain.
+  std::optional<std::string> domain;
+  /// Host name of the reporting AP.
+  std::optional<std::string> ap_hostname;
+  /// Location text of the reporting AP.
+  std::optional<std::string> ap_location;
+  /// Seconds since the client associated.
+  std::optional<std::uint32_t> uptime;
+  /// Channel centre frequency as the AP reports it.
+  std::optional<std::uint32_t> frequency;
+  /// Channel number.
+  std::optional<std::uint32_t> channel;
+  /// Per-antenna RSSI in dBm; floor -127. A reading below the floor is stored as the floor; the
+  /// weakest antenna's reading represents the client.
+  AntennaSignalMetrics<std::greater<int>, std::less<int>> rssi{{}, std::nullopt, -127};
+  /// Per-antenna SNR in dB; floor 0, stored and selected as for rssi.
+  AntennaSignalMetrics<std::greater<int>, std::less<int>> snr{{}, std::nullopt, 0};
+  /// Whether the client is authorized on the AP.
+  std::optional<bool> authorized;
+  /// 802.11 mode of the client.
+  std::optional<ClientWirelessMode> wireless_mode;
+  /// Link quality text, kept verbatim.
+  std::optional<std::string> link_quality;
+  /// Common link quality text, kept verbatim.
+  std::optional<std::string> link_quality_common;
+  /// Traffic counters per direction.
+  std::optional<Statistics> statistics;
+  /// Multi-link data.
+  std::optional<Mlo> mlo;
+  /// Seconds since WLAN authentication.
+  std::optional<std::uint32_t> wlan_auth_uptime;
+  /// Seconds since RADIUS MAC authentication.
+  std::optional<std::uint32_t> mac_auth_uptime;
+  /// Seconds since portal authentication.
+  std::optional<std::uint32_t> portal_auth_uptime;
+  /// EAP method the client authenticated with.
+  std::optional<ClientEapMethod> eap_method;
+  /// RADIUS MAC authentication state.
+  std::optional<ClientMacAuthStatus> mac_auth_status;
+  /// Portal authentication state.
+  std::optional<ClientPortalAuthStatus> portal_auth_status;
+  /// WLAN (802.1X/PSK) authentication state.
+  std::optional<ClientWlanAuthStatus> wlan_auth_status;
+  /// WLAN authentication method.
+  std::optional<ClientWlanAuthMethod> wlan_auth_method;
+  /// 802.11 authentication algorithm.
+  std::optional<ClientAuthAlgorithm> auth_algorithm;
+  /// Pairwise cipher name.
+  std::optional<std::string> encryption_cipher;
+  /// Group cipher name.
+  std::optional<std::string> encryption_group_cipher;
+
+  /// A record of the client with this MAC address on this AP interface and SSID. Every other
+  /// member starts empty: optionals empty, `ip` not valid, no signal readings (floors -127 for
+  /// RSSI and 0 for SNR). The arguments are checked in this order and only the first failure is
+  /// reported, by std::invalid_argument: "parameter 'mac' is not valid" when mac's validity flag
+  /// is false, "parameter 'interface' is empty", "parameter 'ssid' is empty".
+  APClientData(MacAddr const& mac, std::string const& interface, std::string const& ssid);
+
+  // Copies are member-wise. The copy operations are declared so that the compiler generates no
+  // move operations: a moved-from record would be left with an empty interface and SSID, a record
+  // the constructor refuses, so an rvalue record is copied and its source stays valid.
+  /// Member-wise copy.
+  APClientData(APClientData const&) = default;
+  /// Member-wise copy assignment.
+  APClientData& operator=(APClientData const&) = default;
+  /// Member-wise destruction.
+  ~APClientData() = default;
+
+  /// Sets `band` from the band of an AP profile: 2.4 GHz gives 2G, 5 GHz 5G, 6 GHz 6G and UNKNOWN
+  /// empties `band`. Any other value (one cast from a number outside the enumeration) leaves
+  /// `band` unchanged. Never throws.
+  void set_band(ApProfileRadioBand profile_band);
+
+  /// The text of `band` ("2G", "5G" or "6G"); empty when `band` is empty. Throws
+  /// std::invalid_argument "APClientData: band_to_str unknown band" when `band` holds a value
+  /// outside the three, which only a value forced in by a cast can be.
+  std::optional<std::string> get_band_str() const;
+
+  /// Whether the client's facts are the same, compared in this order: mac (the six octets),
+  /// interface, ssid, ip (the four octets only, not the validity flag), band, vlan_id, hostname,
+  /// username, domain, ap_hostname, ap_location, uptime, rssi, snr, authorized, wireless_mode,
+  /// link_quality, link_quality_common, statistics, mlo, eap_method, mac_auth_status,
+  /// portal_auth_status, wlan_auth_method, wlan_auth_status, wlan_auth_uptime, auth_algorithm,
+  /// mac_auth_uptime, portal_auth_uptime. frequency, channel, encryption_cipher and
+  /// encryption_group_cipher are left out on purpose, so a change of channel or cipher alone does
+  /// not count as a change of the client. Optionals are equal when both are empty or both hold
+  /// equal values. Never throws.
+  bool operator==(APClientData const& other) const;
+  /// The negation of ==.
+  bool operator!=(APClientData const& other) const;
+};
