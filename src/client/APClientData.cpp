@@ -1,6 +1,8 @@
 #include <wlccw/client/APClientData.hpp>
 
+#include <functional>
 #include <stdexcept>
+#include <utility>
 
 APClientData::APClientData(MacAddr const& client_mac, std::string const& client_interface,
                            std::string const& client_ssid)
@@ -61,4 +63,27 @@ bool APClientData::operator==(APClientData const& other) const {
 
 bool APClientData::operator!=(APClientData const& other) const {
   return !(*this == other);
+}
+
+std::optional<APClientData::Statistics>
+get_tx_rx_statistics(lcw_data_t& node,
+                     std::function<std::optional<APClientData::Statistics::Statistic>(
+                         lcw_data_t&, std::string const&)> const& reader) {
+  if (!reader) {
+    throw std::bad_function_call();
+  }
+  std::optional<APClientData::Statistics::Statistic> tx = reader(node, "tx");
+  std::optional<APClientData::Statistics::Statistic> rx = reader(node, "rx");
+  if (!tx && !rx) {
+    return std::nullopt;
+  }
+  // One direction present makes the other a zeroed Statistic, not an absent one.
+  APClientData::Statistics statistics;
+  if (tx) {
+    statistics.tx = std::move(*tx);
+  }
+  if (rx) {
+    statistics.rx = std::move(*rx);
+  }
+  return statistics;
 }

@@ -2,6 +2,7 @@
 // per-antenna signal, authentication state, traffic counters and multi-link data.
 #pragma once
 
+#include <wlccw/cfg/tree.hpp>
 #include <wlccw/client/AntennaSignalMetrics.hpp>
 #include <wlccw/client/Mlo.hpp>
 #include <wlccw/common/IpAddr.hpp>
@@ -179,4 +180,46 @@ public:
   bool operator==(APClientData const& other) const;
   /// The negation of ==.
   bool operator!=(APClientData const& other) const;
+
+  // ---- NETCONF import ----
+
+  /// The record of one client object of an AP's NETCONF monitoring reply. Throws
+  /// wlccw::InvalidJsonPointer for a null client, wlccw::EmptyJson for an empty one, and the
+  /// constructor's std::invalid_argument for a bad "hw-addr", a missing "interface" or an empty
+  /// decoded "ssid"; every other missing or malformed member leaves its field empty.
+  static APClientData from_netconf_json(lcw_data_t* client);
+
+  // ---- IPC form ----
+
+  /// Writes the IPC form into an object; nothing for a null object. A record without statistics
+  /// writes no authentication, multi-link or cipher keys.
+  void to_json(lcw_data_t* object) const;
+  /// The compact text of the IPC form.
+  std::string to_json_str() const;
+  /// The record of an IPC object. Throws wlccw::InvalidJsonPointer for a null object,
+  /// wlccw::EmptyJson for an empty one and the constructor's std::invalid_argument for a bad
+  /// identity; every other missing or malformed key leaves its field empty.
+  static APClientData from_json(lcw_data_t* object);
+  /// from_json of a parsed IPC text; a text that is not JSON throws wlccw::InvalidJsonPointer.
+  static APClientData from_json_str(std::string const& text);
+  /// Takes the changeable facts of a newer record of the same client, empty ones included; keeps
+  /// this record's identity, frequency, channel and ciphers.
+  void fill_optional_data(APClientData const& other);
+  /// A one-line summary of how the client authenticated ("WPA2-Enterprise/Authenticated", ...);
+  /// empty when the WLAN authentication is missing or failed, or the combination shows nothing.
+  std::optional<std::string> get_auth_description() const;
 };
+
+/// Reads both directions of a client's statistics with reader: empty when both are empty;
+/// otherwise a direction the reader did not give is a default (zeroed) Statistic. Throws
+/// std::bad_function_call for an empty reader.
+WLCCW_EXPORT std::optional<APClientData::Statistics>
+get_tx_rx_statistics(lcw_data_t& node,
+                     std::function<std::optional<APClientData::Statistics::Statistic>(
+                         lcw_data_t&, std::string const&)> const& reader);
+
+/// One direction ("tx" or "rx") of a NETCONF client object's statistics: rate texts, bandwidth and
+/// actual rate of the client object, byte and packet counters of "/statistics/<direction>"; empty
+/// when none of them is there.
+WLCCW_EXPORT std::optional<APClientData::Statistics::Statistic>
+get_statistic_from_netconf(lcw_data_t& node, std::string const& direction);
