@@ -40,6 +40,7 @@ bench: deps
 	cmake --build --preset bench
 	build/bench/bench/wlccw_bench_tree
 	build/bench/bench/wlccw_bench_enums
+	build/bench/bench/wlccw_bench_client
 
 format:
 	git ls-files '*.hpp' '*.cpp' '*.hpp.in' | xargs clang-format -i

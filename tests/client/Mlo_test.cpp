@@ -2,6 +2,8 @@
 #include <wlccw/cfg/owned.hpp>
 #include <wlccw/client/Mlo.hpp>
 
+#include "client_support.hpp"
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -15,6 +17,9 @@
 #include <vector>
 
 namespace {
+
+using wlccw::test::parse_json;
+using wlccw::test::read_client_sample;
 
 using Link = Mlo::Link;
 using Statistic = Mlo::Link::Statistic;
@@ -42,20 +47,6 @@ Statistic make_statistic(std::optional<int> bytes, std::optional<int> packets,
   return statistic;
 }
 
-Tree parse_json(std::string const& json) {
-  Tree tree = wlccw::cfg::parse(json);
-  EXPECT_TRUE(tree) << json;
-  return tree;
-}
-
-std::string read_sample(char const* name) {
-  std::ifstream in(std::string(WLCCW_TEST_DATA_DIR) + "/client/" + name, std::ios::binary);
-  EXPECT_TRUE(in) << name;
-  std::ostringstream text;
-  text << in.rdbuf();
-  return text.str();
-}
-
 std::optional<Mlo> from_netconf(std::string const& json) {
   Tree const client = parse_json(json);
   if (!client) {
@@ -65,7 +56,7 @@ std::optional<Mlo> from_netconf(std::string const& json) {
 }
 
 std::optional<Mlo> from_netconf_sample(char const* name) {
-  return from_netconf(read_sample(name));
+  return from_netconf(read_client_sample(name));
 }
 
 std::optional<Mlo> from_ipc(std::string const& json) {

@@ -1,0 +1,151 @@
+// The client record read from one client object of an AP's NETCONF monitoring reply.
+#include <wlccw/client/APClientData.hpp>
+
+#include <wlccw/client/radio_signal.hpp>
+#include <wlccw/common/errors.hpp>
+#include <wlccw/common/html.hpp>
+
+#include "detail/modulation.hpp"
+
+#include <cstdio>
+#include <string_view>
+#include <utility>
+
+namespace {
+
+using namespace std::string_view_literals;
+
+/// Seconds of an AP's uptime text: "H:M:S", or "D d H:M:S" (each number as sscanf's %u reads it,
+/// text after the last number ignored); empty for anything else. The arithmetic wraps as unsigned
+/// 32-bit, as the AP's own counters do.
+std::optional<std::uint32_t> uptime_from_netconf(char const* text) {
+  unsigned int hours = 0;
+  unsigned int minutes = 0;
+  unsigned int seconds = 0;
+  if (std::sscanf(text, "%u:%u:%u", &hours, &minutes, &seconds) == 3) {
+    return static_cast<std::uint32_t>(hours * 3600U + minutes * 60U + seconds);
+  }
+  unsigned int days = 0;
+  if (std::sscanf(text, "%u d %u:%u:%u", &days, &hours, &minutes, &seconds) == 4) {
+    return static_cast<std::uint32_t>(days * 86400U + hours * 3600U + minutes * 60U + seconds);
+  }
+  return std::nullopt;
+}
+
+/// Feeds the per-antenna readings of a signal metric (name-1 ... name-8, or name alone) to the
+/// accumulator, then takes the overall reading name as the reported value.
+void read_signal(lcw_data_t const* client, char const* name,
+                 AntennaSignalMetrics<std::greater<int>, std::less<int>>& metric) {
+  for (int const value : radio::signal::parse_numbered_parameters_from_netconf(client, name)) {
+    metric.add(value);
+  }
+  metric.reported = cfg_get_int32_param_opt(client, name);
+}
+
+} // namespace
+
+APClientData APClientData::from_netconf_json(lcw_data_t* client) {
+  if (client == nullptr) {
+    throw wlccw::InvalidJsonPointer();
+  }
+  if (cfg_is_empty(client) != 0) {
+    throw wlccw::EmptyJson();
+  }
+
+  // Identity. Each text is used or copied before the next read: a text the tree returns lives
+  // only until the next operation on it.
+  MacAddr const client_mac = MacAddr::from_str(cfg_get_param(client, "hw-addr"));
+  std::string const client_interface = cfg_get_param(client, "interface");
+  std::string const client_ssid =
+      external_data::ap::decode_html_safe(cfg_get_param(client, "ssid"));
+  APClientData data(client_mac, client_interface, client_ssid);
+
+  data.ip = cfg_get_param(client, "ip-addr");
+  data.vlan_id = cfg_get_uint32_param_opt(client, "vlan-id");
+  data.hostname = external_data::ap::decode_html_safe_opt(cfg_get_param_opt(client, "hostname"));
+  data.username = external_data::ap::decode_html_safe_opt(cfg_get_param_opt(client, "username"));
+  data.domain = external_data::ap::decode_html_safe_opt(cfg_get_param_opt(client, "domain"));
+  data.frequency = cfg_get_uint32_param_opt(client, "frequency");
+  data.channel = cfg_get_uint32_param_opt(client, "channel");
+  data.uptime = uptime_from_netconf(cfg_get_param(client, "uptime"));
+
+  read_signal(client, "rssi", data.rssi);
+  read_signal(client, "snr", data.snr);
+
+  if (std::optional<std::string> const authorized = cfg_get_param_opt(client, "authorized")) {
+    data.authorized = *authorized == "yes"sv || *authorized == "true"sv;
+  }
+  data.wireless_mode =
+      client_wireless_mode_from_netconf_str(cfg_get_param_opt(client, "wireless-mode"));
+  data.link_quality = cfg_get_param_opt(client, "link-quality");
+  data.link_quality_common = cfg_get_param_opt(client, "link-quality-common");
+
+  data.statistics = get_tx_rx_statistics(*client, get_statistic_from_netconf);
+
+  data.eap_method = client_eap_method_from_netconf_str(cfg_get_param(client, "eap-method"));
+  data.mac_auth_status =
+      client_mac_auth_status_from_netconf_str(cfg_get_param(client, "radius-mac-auth"));
+  data.portal_auth_status =
+      client_portal_auth_status_from_netconf_str(cfg_get_param(client, "portal-auth"));
+  data.wlan_auth_status =
+      client_wlan_auth_status_from_netconf_str(cfg_get_param(client, "wlan-auth-status"));
+  data.wlan_auth_method =
+      client_wlan_auth_method_from_netconf_str(cfg_get_param(client, "wlan-auth-type"));
+  data.auth_algorithm = client_auth_algorithm_netconf_str(cfg_get_param(client, "auth-algorithm"));
+
+  data.wlan_auth_uptime = cfg_get_uint32_param_opt(client, "wlan-auth-time");
+  data.mac_auth_uptime = cfg_get_uint32_param_opt(client, "radius-mac-auth-time");
+  data.portal_auth_uptime = cfg_get_uint32_param_opt(client, "portal-auth-time");
+
+  data.mlo = Mlo::from_netconf_json(*client);
+
+  data.encryption_cipher =
+      wlccw::detail::cipher_from_netconf(cfg_get_param_opt(client, "encryption-cipher"));
+  data.encryption_group_cipher =
+      wlccw::detail::cipher_from_netconf(cfg_get_param_opt(client, "encryption-group-cipher"));
+
+  // band, ap_hostname and ap_location are the controller's to fill.
+  return data;
+}
+
+std::optional<APClientData::Statistics::Statistic>
+get_statistic_from_netconf(lcw_data_t& node, std::string const& direction) {
+  using wlccw::detail::ModulationPart;
+  using wlccw::detail::parse_modulation_data_string;
+
+  std::optional<std::string> rate = cfg_get_param_opt(&node, (direction + "-rate").c_str());
+  std::optional<std::string> bandwidth = cfg_get_param_opt(&node, (direction + "-bw").c_str());
+  std::optional<std::string> rate_numeric =
+      cfg_get_param_opt(&node, (direction + "-rate-numeric").c_str());
+  std::optional<std::uint32_t> const actual_rate =
+      cfg_get_uint32_param_opt(&node, ("actual-" + direction + "-rate").c_str());
+
+  std::optional<APClientData::Statistics::Statistic> statistic;
+  // The numeric rate only completes a rate text; by itself it makes no statistic.
+  if (rate || bandwidth || actual_rate) {
+    statistic.emplace();
+    if (actual_rate) {
+      statistic->actual_rate = static_cast<std::int32_t>(*actual_rate);
+    }
+    if (rate) {
+      statistic->modulation = parse_modulation_data_string(rate, ModulationPart::MODULATION);
+      statistic->rate_numeric =
+          rate_numeric ? std::move(rate_numeric)
+                       : parse_modulation_data_string(rate, ModulationPart::NUMERIC_RATE);
+      statistic->rate = std::move(rate);
+    }
+    if (bandwidth) {
+      statistic->bandwidth = std::move(bandwidth);
+    }
+  }
+
+  if (lcw_data_t const* const counters =
+          cfg_get_subtree_from_path(&node, ("/statistics/" + direction).c_str())) {
+    if (!statistic) {
+      statistic.emplace();
+    }
+    statistic->bytes = cfg_get_int_param(counters, "bytes");
+    statistic->packets = cfg_get_int_param(counters, "packets");
+  }
+  return statistic;
+}
