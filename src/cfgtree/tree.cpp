@@ -56,7 +56,7 @@ struct lcw_data_t {
   struct Children {
     lcw_data_t* first;
     lcw_data_t* last;
-    lcw_data_t* hint;   // the member where the next lookup starts (objects)
+    lcw_data_t* hint;   // the member found last (objects): lookups start next to it
     MemberIndex* index; // hash index of the members of a large object, or null
   };
   struct Text {
@@ -267,37 +267,38 @@ void append_child(lcw_data_t* parent, lcw_data_t* child) {
   }
 }
 
-void hint_after(lcw_data_t* object, lcw_data_t* found) {
-  object->c.hint = found->next != nullptr ? found->next : found;
-}
-
-// The member with the given name. The hint is tried first (reading in document
-// order hits it), then the index if the object has one, else a scan from the
-// hint to the end and on from the start.
+// The member with the given name. The object remembers the member found last: its successor is
+// tried first (reading members in document order hits it), then the member itself (reading the
+// same member twice hits it), then the index if the object has one, else a scan from that
+// successor to the end and on from the start.
 lcw_data_t* find_member(lcw_data_t const* node, char const* key, std::size_t len) {
   if (node == nullptr || key == nullptr || node->kind != Kind::Object) {
     return nullptr;
   }
   auto* object = const_cast<lcw_data_t*>(node);
-  lcw_data_t* const start = object->c.hint != nullptr ? object->c.hint : object->c.first;
-  if (start == nullptr) {
+  lcw_data_t* const last = object->c.hint;
+  lcw_data_t* const next = last != nullptr && last->next != nullptr ? last->next : object->c.first;
+  if (next == nullptr) {
     return nullptr;
   }
-  if (key_is(start, key, len)) {
-    hint_after(object, start);
-    return start;
+  if (key_is(next, key, len)) {
+    object->c.hint = next;
+    return next;
+  }
+  if (last != nullptr && key_is(last, key, len)) {
+    return last;
   }
   lcw_data_t* found = nullptr;
   if (object->c.index != nullptr) {
     found = index_find(object->c.index, key, len);
   } else {
     std::size_t scanned = 0;
-    for (lcw_data_t* m = start->next; m != nullptr && found == nullptr; m = m->next, ++scanned) {
+    for (lcw_data_t* m = next->next; m != nullptr && found == nullptr; m = m->next, ++scanned) {
       if (key_is(m, key, len)) {
         found = m;
       }
     }
-    for (lcw_data_t* m = object->c.first; m != start && found == nullptr; m = m->next, ++scanned) {
+    for (lcw_data_t* m = object->c.first; m != next && found == nullptr; m = m->next, ++scanned) {
       if (key_is(m, key, len)) {
         found = m;
       }
@@ -311,7 +312,7 @@ lcw_data_t* find_member(lcw_data_t const* node, char const* key, std::size_t len
     }
   }
   if (found != nullptr) {
-    hint_after(object, found);
+    object->c.hint = found;
   }
   return found;
 }

@@ -15,13 +15,17 @@ std::vector<int> parse_numbered_parameters_from_netconf(lcw_data_t const* node, 
   for (int n = 1; n <= 8; ++n) {
     key.resize(stem);
     key += static_cast<char>('0' + n);
-    if (cfg_contain_param(node, key.c_str()) == 0) {
+    // One lookup per member: the member node is read as an int where it is one, else as 0.
+    lcw_data_t const* const member = cfg_get_subtree(node, key.c_str());
+    if (member == nullptr) {
       break; // a gap ends the numbered readings
     }
-    values.push_back(cfg_get_int_param(node, key.c_str()));
+    values.push_back(cfg_object_to_int_opt(member).value_or(0));
   }
-  if (values.empty() && cfg_contain_param(node, name) != 0) {
-    values.push_back(cfg_get_int_param(node, name));
+  if (values.empty()) {
+    if (lcw_data_t const* const member = cfg_get_subtree(node, name)) {
+      values.push_back(cfg_object_to_int_opt(member).value_or(0));
+    }
   }
   return values;
 }
