@@ -67,7 +67,11 @@
 // Wireless client model.
 #include <wlccw/client/APClientData.hpp>
 #include <wlccw/client/AntennaSignalMetrics.hpp>
+#include <wlccw/client/ApWithClients.hpp>
+#include <wlccw/client/AuthenticatedClients.hpp>
+#include <wlccw/client/ClientsByAuthTypeCount.hpp>
 #include <wlccw/client/Mlo.hpp>
+#include <wlccw/client/NcIpcClientList.hpp>
 #include <wlccw/client/radio_signal.hpp>
 
 // Controller service messages.

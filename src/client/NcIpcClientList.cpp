@@ -1,0 +1,179 @@
+// The clients of one AP by interface: updates, registration events and the IPC form of the whole
+// list.
+#include <wlccw/client/NcIpcClientList.hpp>
+
+#include <wlccw/cfg/owned.hpp>
+
+#include <exception>
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+int NcIpcClientList::add_or_update(APClientData&& client) {
+  auto entry = interfaces.find(client.interface);
+  if (entry == interfaces.end()) {
+    // A new interface takes the SSID of its first client; later clients do not change it.
+    InterfaceDesc desc;
+    desc.ssid = client.ssid;
+    entry = interfaces.emplace(client.interface, std::move(desc)).first;
+  }
+  std::map<MacAddr, APClientData>& clients = entry->second.clients;
+  int result = 0;
+  auto const present = clients.find(client.mac);
+  if (present != clients.end()) {
+    present->second = client; // replaced whole: callers merge beforehand if they want to
+    result = 2;
+  } else {
+    clients.emplace(client.mac, client);
+    result = 1;
+  }
+  recount();
+  return result;
+}
+
+void NcIpcClientList::del(MacAddr const& mac, std::string const& interface) {
+  auto const entry = interfaces.find(interface);
+  if (entry != interfaces.end()) {
+    entry->second.clients.erase(mac);
+    if (entry->second.clients.empty()) {
+      interfaces.erase(entry);
+    }
+  }
+  recount();
+}
+
+void NcIpcClientList::del_from_all_interfaces(MacAddr const& mac) {
+  // The names are collected first because del removes entries that become empty.
+  std::vector<std::string> holding;
+  for (auto const& [name, desc] : interfaces) {
+    if (desc.clients.find(mac) != desc.clients.end()) {
+      holding.push_back(name);
+    }
+  }
+  for (std::string const& name : holding) {
+    del(mac, name);
+  }
+}
+
+bool NcIpcClientList::find(MacAddr const& mac) const {
+  for (auto const& entry : interfaces) {
+    if (entry.second.clients.find(mac) != entry.second.clients.end()) {
+      return true;
+    }
+  }
+  return false;
+}
+
+void NcIpcClientList::recount() {
+  std::size_t total = 0;
+  for (auto const& entry : interfaces) {
+    total += entry.second.clients.size();
+  }
+  clients_count = static_cast<std::uint32_t>(total);
+}
+
+void NcIpcClientList::clear() {
+  interfaces.clear();
+  recount();
+}
+
+void NcIpcClientList::set_username_for_client_and_update_status(std::string const& interface,
+                                                                MacAddr const& mac,
+                                                                std::string const& username) {
+  auto const entry = interfaces.find(interface);
+  if (entry == interfaces.end()) {
+    return;
+  }
+  auto const client = entry->second.clients.find(mac);
+  if (client == entry->second.clients.end()) {
+    return;
+  }
+  client->second.username = username;
+  client->second.portal_auth_status = username.empty() ? ClientPortalAuthStatus::UNAUTHENTICATED
+                                                       : ClientPortalAuthStatus::AUTHENTICATED;
+  recount();
+}
+
+void NcIpcClientList::update_client_as_registered(std::string const& interface, MacAddr const& mac,
+                                                  std::string const& username) {
+  set_username_for_client_and_update_status(interface, mac, username);
+}
+
+void NcIpcClientList::update_client_as_unregistered(std::string const& interface,
+                                                    MacAddr const& mac) {
+  set_username_for_client_and_update_status(interface, mac, std::string());
+}
+
+lcw_data_t* NcIpcClientList::to_ipc_json() const {
+  // Owned until it is handed out, so a record writer that throws cannot leak the tree.
+  wlccw::cfg::Tree root = wlccw::cfg::make_object();
+  if (!root) {
+    return nullptr;
+  }
+  for (auto const& [name, desc] : interfaces) {
+    lcw_data_t* const object = cfg_insert_empty_subtree_or_exists(root.get(), name.c_str());
+    if (object == nullptr) {
+      continue;
+    }
+    cfg_set_param(object, "ssid", desc.ssid.c_str());
+    lcw_data_t* const clients = cfg_insert_empty_subtree_or_exists(object, "client");
+    if (clients == nullptr) {
+      continue;
+    }
+    for (auto const& [mac, client] : desc.clients) {
+      char key[18];
+      mac.format(key);
+      lcw_data_t* const client_object = cfg_insert_empty_subtree_or_exists(clients, key);
+      if (client_object == nullptr) {
+        continue;
+      }
+      client.to_json(client_object);
+    }
+  }
+  return root.release();
+}
+
+NcIpcClientList NcIpcClientList::from_ipc_json(lcw_data_t* root) {
+  NcIpcClientList list;
+  if (root == nullptr || cfg_is_empty(root) != 0) {
+    return list;
+  }
+  // Members of a node that is not an object are not visited, so such a root gives an empty list.
+  wlccw::cfg::for_each_member(root, [&list](char const* name, lcw_data_t& member) {
+    InterfaceDesc& desc = list.interfaces[name != nullptr ? name : ""];
+    desc.ssid = cfg_get_param(&member, "ssid");
+    lcw_data_t* const clients = cfg_get_subtree(&member, "client");
+    if (clients == nullptr) {
+      return; // the interface stays, with no clients
+    }
+    wlccw::cfg::for_each_member(clients, [&list, &desc](char const* key, lcw_data_t& object) {
+      std::optional<APClientData> client;
+      try {
+        client.emplace(APClientData::from_json(&object));
+      } catch (std::exception const&) {
+        return; // a client the record reader refuses is dropped alone
+      } catch (...) {
+        list.clear();
+        throw;
+      }
+      // The member's name is the key, whatever the record's own "mac" says.
+      desc.clients.insert_or_assign(MacAddr::from_str(key), *client);
+    });
+  });
+  list.recount();
+  return list;
+}
+
+std::string NcIpcClientList::to_str() const {
+  wlccw::cfg::Tree const root(to_ipc_json());
+  if (!root) {
+    return {};
+  }
+  return wlccw::cfg::compact(root.get());
+}
+
+std::size_t NcIpcClientList::get_hash() const {
+  return std::hash<std::string>{}(to_str());
+}
