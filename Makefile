@@ -41,6 +41,7 @@ bench: deps
 	build/bench/bench/wlccw_bench_tree
 	build/bench/bench/wlccw_bench_enums
 	build/bench/bench/wlccw_bench_client
+	build/bench/bench/wlccw_bench_monitoring
 
 format:
 	git ls-files '*.hpp' '*.cpp' '*.hpp.in' | xargs clang-format -i

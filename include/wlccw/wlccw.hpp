@@ -74,5 +74,12 @@
 #include <wlccw/client/NcIpcClientList.hpp>
 #include <wlccw/client/radio_signal.hpp>
 
+// AP monitoring data.
+#include <wlccw/monitoring/NcIpcApMonitoringApNeighbours.hpp>
+#include <wlccw/monitoring/NcIpcApMonitoringEthernetPorts.hpp>
+#include <wlccw/monitoring/NcIpcApMonitoringInformation.hpp>
+#include <wlccw/monitoring/NcIpcApMonitoringInterfaces.hpp>
+#include <wlccw/monitoring/NcIpcApMonitoringRadioInterface.hpp>
+
 // Controller service messages.
 #include <wlccw/ipc/ApWidsMacLists.hpp>

@@ -4,31 +4,20 @@
 #include <wlccw/cfg/owned.hpp>
 #include <wlccw/client/APClientData.hpp>
 
+#include <support/samples.hpp>
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <fstream>
 #include <optional>
-#include <sstream>
 #include <string>
 #include <utility>
 
 namespace wlccw::test {
 
-/// The parsed tree of a JSON text; a failure to parse fails the calling test.
-inline cfg::Tree parse_json(std::string const& json) {
-  cfg::Tree tree = cfg::parse(json);
-  EXPECT_TRUE(tree) << json;
-  return tree;
-}
-
 /// The bytes of a sample file under tests/data/client/.
 inline std::string read_client_sample(char const* name) {
-  std::ifstream in(std::string(WLCCW_TEST_DATA_DIR) + "/client/" + name, std::ios::binary);
-  EXPECT_TRUE(in) << name;
-  std::ostringstream text;
-  text << in.rdbuf();
-  return text.str();
+  return read_sample(std::string("client/") + name);
 }
 
 /// A client-level Statistic with every member given.
