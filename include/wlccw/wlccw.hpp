@@ -82,4 +82,18 @@
 #include <wlccw/monitoring/NcIpcApMonitoringRadioInterface.hpp>
 
 // Controller service messages.
+#include <wlccw/ipc/ApLocationsData.hpp>
 #include <wlccw/ipc/ApWidsMacLists.hpp>
+#include <wlccw/ipc/ClientCoaProxyInfo.hpp>
+#include <wlccw/ipc/FailoverMgr.hpp>
+#include <wlccw/ipc/FullVapData.hpp>
+#include <wlccw/ipc/IpcDasProxyConfig.hpp>
+#include <wlccw/ipc/IpcMsgGreData.hpp>
+#include <wlccw/ipc/IpcMsgRrmApInfo.hpp>
+#include <wlccw/ipc/IpcMsgVelmoraRequest.hpp>
+#include <wlccw/ipc/IpcMsgVelmoraResponse.hpp>
+#include <wlccw/ipc/IpcMsgVrrpUpdateBoardTypes.hpp>
+#include <wlccw/ipc/SaApsInfo.hpp>
+#include <wlccw/ipc/Ssid2VapInfo.hpp>
+#include <wlccw/ipc/Vap.hpp>
+#include <wlccw/ipc/WidsAttackedAps.hpp>

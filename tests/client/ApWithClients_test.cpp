@@ -2,6 +2,8 @@
 // fallbacks.
 #include <wlccw/client/ApWithClients.hpp>
 
+#include "support/addresses.hpp"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -10,9 +12,7 @@
 
 namespace {
 
-MacAddr mac(char const* text) {
-  return MacAddr::from_str(text);
-}
+using wlccw::test::mac;
 
 APClientData make_client(char const* client_mac, char const* interface, char const* ssid) {
   return APClientData(mac(client_mac), interface, ssid);

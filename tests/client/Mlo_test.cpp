@@ -4,6 +4,8 @@
 
 #include "client_support.hpp"
 
+#include "support/addresses.hpp"
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -16,6 +18,8 @@
 
 namespace {
 
+using wlccw::test::mac;
+
 using wlccw::test::parse_json;
 using wlccw::test::read_client_sample;
 
@@ -23,10 +27,6 @@ using Link = Mlo::Link;
 using Statistic = Mlo::Link::Statistic;
 using radio::Band;
 using wlccw::cfg::Tree;
-
-MacAddr mac(char const* text) {
-  return MacAddr::from_str(text);
-}
 
 Link make_link(std::uint8_t id, char const* link_mac, Band band) {
   Link link;

@@ -2,8 +2,10 @@
 
 #include <wlccw/cfg/owned.hpp>
 
+#include "support/addresses.hpp"
 #include <boost/json.hpp>
 #include <gmock/gmock.h>
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -15,12 +17,10 @@
 
 namespace {
 
+using wlccw::test::mac;
+
 using MacSet = std::unordered_set<MacAddr>;
 using ::testing::UnorderedElementsAre;
-
-MacAddr mac(char const* text) {
-  return MacAddr::from_str(text);
-}
 
 // The compact JSON array of the set's text forms in the set's own iteration order: what every
 // writer is expected to produce for that set.
