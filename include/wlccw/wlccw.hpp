@@ -97,3 +97,8 @@
 #include <wlccw/ipc/Ssid2VapInfo.hpp>
 #include <wlccw/ipc/Vap.hpp>
 #include <wlccw/ipc/WidsAttackedAps.hpp>
+
+// Process and file-system services.
+#include <wlccw/system/InotifyWatcher.hpp>
+#include <wlccw/system/TZWatcher.hpp>
+#include <wlccw/system/exec_cmd.hpp>

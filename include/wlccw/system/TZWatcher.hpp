@@ -1,0 +1,35 @@
+// Following the system time zone while the process runs.
+#pragma once
+
+#include <wlccw/export.hpp>
+#include <wlccw/system/InotifyWatcher.hpp>
+
+#include <cstdint>
+#include <optional>
+
+/// Watches "/etc" and reloads the process's time-zone state with tzset whenever a file there is
+/// written and closed, moved in or out, or deleted. Active from construction; the owner calls
+/// watch() from its loop.
+class WLCCW_EXPORT TZWatcher : public InotifyObserver {
+public:
+  /// Starts watching "/etc".
+  TZWatcher();
+  /// Virtual, so that an object of a class derived from it may be deleted through a pointer to it.
+  virtual ~TZWatcher() = default;
+
+  TZWatcher(TZWatcher const&) = delete;
+  TZWatcher& operator=(TZWatcher const&) = delete;
+
+  /// One short poll of "/etc" (at most 10 ms) with this watcher as the observer.
+  void watch();
+
+  /// Calls tzset, whatever the event is about.
+  void inotify_event(struct inotify_event* event) override;
+
+  /// The watch on "/etc".
+  InotifyWatcher watcher;
+};
+
+/// The current offset of local time from UTC in seconds, east positive, daylight saving
+/// included. Always engaged. Follows the time zone the process last loaded (tzset).
+WLCCW_EXPORT std::optional<std::int64_t> get_wlc_tz();
