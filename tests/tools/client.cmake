@@ -1,0 +1,1 @@
+# wlccw tool runs of the client subcommands and families.

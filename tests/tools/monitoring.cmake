@@ -1,0 +1,1 @@
+# wlccw tool runs of the monitoring subcommands and families.

@@ -1,0 +1,1 @@
+# wlccw tool runs of the values subcommands and families.
