@@ -5,6 +5,7 @@
 // 2 for a usage error.
 
 #include "cli/io.hpp"
+#include "cli/values.hpp"
 
 #include <wlccw/common/MacAddr.hpp>
 #include <wlccw/ipc/ApWidsMacLists.hpp>
@@ -95,7 +96,9 @@ int main(int argc, char** argv) {
   tool.failure_message(usage_failure); // set before the subcommands, which inherit it
   tool.require_subcommand(1);
 
-  std::vector<Subcommand> const subcommands{add_wids_lists(tool), add_mac(tool)};
+  std::vector<Subcommand> const subcommands{
+      add_wids_lists(tool), add_mac(tool), add_convert(tool), add_hash(tool),       add_demo(tool),
+      add_enum(tool),       add_ip(tool),  add_version(tool), add_html_decode(tool)};
 
   try {
     tool.parse(argc, argv);

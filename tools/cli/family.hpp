@@ -3,6 +3,9 @@
 // and a short human table of what it holds.
 #pragma once
 
+#include <wlccw/cfg/owned.hpp>
+#include <wlccw/cfg/tree.hpp>
+
 #include <cstddef>
 #include <functional>
 #include <optional>
@@ -60,6 +63,37 @@ struct Family {
   /// Whether the input is free text rather than JSON (the WIDS attacked-AP report).
   bool free_text = false;
 };
+
+/// What one input of a family became, read from its NETCONF form (from_ipc false) or its IPC form:
+/// the records in input order. Throws Rejected for input the family refuses, with the reason; any
+/// other exception of a reader comes out as Rejected with its text. The text must already be JSON
+/// unless the family reads free text.
+std::vector<Converted> convert_input(Family const& family, bool from_ipc, std::string const& text,
+                                     NetconfOptions const& options);
+
+// ---- Helpers of the family readers ----------------------------------------------------------
+
+/// Throws Rejected("an \"error\" reply[: <error-message>]") when root is an object whose "error"
+/// is true; an AP marks a failed reply so.
+void reject_error_reply(lcw_data_t const* root);
+
+/// The parsed input, Rejected ("not a JSON object[; expected WHAT]") unless it is a JSON object.
+cfg::Tree object_input(std::string const& text, std::string_view what = {});
+
+/// The parsed input, Rejected ("not a JSON array") unless it is a JSON array.
+cfg::Tree array_input(std::string const& text);
+
+/// A summary cell: the printable text, "-" when it is empty or missing.
+std::string or_dash(std::string const& text);
+std::string or_dash(std::optional<std::string> const& text);
+
+/// The text members key of each object of an array in written IPC text (the array at array_key of
+/// the root object, or the root itself for a null array_key), made printable: the library's own
+/// words for values (stage, state) that the records keep as numbers.
+std::vector<std::string> texts_in(std::string const& ipc, char const* array_key, char const* key);
+
+/// A summary cell for a flag: "yes" or "no".
+std::string yes_no(bool value);
 
 /// Every family, in the order --help lists them.
 std::vector<Family> const& families();

@@ -35,6 +35,29 @@ int fail(std::string_view command, std::string_view reason) {
   return kExitBadInput;
 }
 
+bool is_object(lcw_data_t const* node) {
+  if (node == nullptr) {
+    return false;
+  }
+  // Only an object yields a member iterator.
+  wlccw::cfg::ObjectIterator const members(cfg_alloc_iterator(node));
+  return members != nullptr;
+}
+
+bool is_array(lcw_data_t const* node) {
+  if (node == nullptr) {
+    return false;
+  }
+  wlccw::cfg::ArrayIterator const elements(cfg_alloc_array_iterator(node));
+  return elements != nullptr;
+}
+
+int usage_error(std::string_view command, std::string_view reason) {
+  std::cerr << "wlccw: " << command << ": " << reason << " (run 'wlccw " << command
+            << " --help' for usage)\n";
+  return kExitUsage;
+}
+
 /// The whole content of a file, or of standard input for "-". On failure, an empty optional and
 /// the reason in error.
 std::optional<std::string> read_input(std::string const& path, std::string& error) {

@@ -4,6 +4,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <wlccw/cfg/tree.hpp>
+
 #include <functional>
 #include <optional>
 #include <string>
@@ -43,5 +45,21 @@ std::optional<std::string> why_not_json(std::string const& text);
 
 /// Why text is no MAC address (length, separator, digit), for a text MacAddr::from_str refused.
 std::string why_not_mac(std::string_view text);
+
+/// Whether the node is a JSON object (null: no).
+bool is_object(lcw_data_t const* node);
+
+/// Whether the node is a JSON array (null: no).
+bool is_array(lcw_data_t const* node);
+
+/// Prints "wlccw: <command>: <reason> (run 'wlccw <command> --help' for usage)" on stderr and
+/// gives the usage exit status.
+int usage_error(std::string_view command, std::string_view reason);
+
+// The subcommands that live in cli/: each declares its options on the tool and returns the
+// function that runs it.
+Subcommand add_convert(CLI::App& tool);
+Subcommand add_hash(CLI::App& tool);
+Subcommand add_demo(CLI::App& tool);
 
 } // namespace wlccw::tool
