@@ -35,6 +35,9 @@ constexpr Sample kSamples[] = {
     {"interfaces", "monitoring/reply-full.json"},
     {"ports", "monitoring/reply-full.json"},
     {"neighbours", "monitoring/reply-full.json"},
+    {"vaps", "vaps/netconf-vaps.json"},
+    {"wids-lists", "wids/mixed.json"},
+    {"attacked-aps", "wids/attacked-aps.txt"},
 };
 
 /// Rejected inputs the tour shows with their reasons.
