@@ -1,7 +1,7 @@
 # Quick start:  make demo  |  make test
 # Every target installs the Debian packages it needs first (scripts/install-deps).
 
-.PHONY: all deps build demo test test-release test-asan test-tsan consumer bench format format-check clean
+.PHONY: all deps build demo test test-release test-asan test-tsan consumer bench fuzz format format-check clean
 
 all: build
 
@@ -42,6 +42,13 @@ bench: deps
 	build/bench/bench/wlccw_bench_enums
 	build/bench/bench/wlccw_bench_client
 	build/bench/bench/wlccw_bench_monitoring
+
+FUZZ_SECONDS ?= 60
+
+fuzz: deps
+	cmake --preset fuzz
+	cmake --build --preset fuzz
+	scripts/fuzz build/fuzz $(FUZZ_SECONDS)
 
 format:
 	git ls-files '*.hpp' '*.cpp' '*.hpp.in' | xargs clang-format -i
