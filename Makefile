@@ -1,7 +1,8 @@
 # Quick start:  make demo  |  make test
 # Every target installs the Debian packages it needs first (scripts/install-deps).
 
-.PHONY: all deps build demo test test-release test-asan test-tsan consumer bench fuzz format format-check clean
+.PHONY: all deps build demo test test-release test-asan test-tsan test-fuzz consumer bench fuzz memcheck \
+	format format-check clean
 
 all: build
 
@@ -33,7 +34,7 @@ test-tsan: deps
 consumer: build
 	scripts/check-consumer build/release
 
-test: test-release test-asan test-tsan consumer format-check
+test: test-release test-asan test-tsan test-fuzz consumer format-check
 
 bench: deps
 	cmake --preset bench
@@ -42,6 +43,7 @@ bench: deps
 	build/bench/bench/wlccw_bench_enums
 	build/bench/bench/wlccw_bench_client
 	build/bench/bench/wlccw_bench_monitoring
+	build/bench/bench/wlccw_bench_hostile
 
 FUZZ_SECONDS ?= 60
 
@@ -49,6 +51,13 @@ fuzz: deps
 	cmake --preset fuzz
 	cmake --build --preset fuzz
 	scripts/fuzz build/fuzz $(FUZZ_SECONDS)
+
+# The smoke run of the test command: every fuzz target for 10 s from its seeds.
+test-fuzz:
+	$(MAKE) fuzz FUZZ_SECONDS=10
+
+memcheck: build
+	scripts/memcheck build/release
 
 format:
 	git ls-files '*.hpp' '*.cpp' '*.hpp.in' | xargs clang-format -i

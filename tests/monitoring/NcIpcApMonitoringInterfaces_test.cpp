@@ -102,16 +102,7 @@ TEST(NcIpcApMonitoringInterfaces, EnumerationsHoldTheirValuesIn32Bits) {
 }
 
 TEST(NcIpcApMonitoringInterfaces, EveryOperstateTextReadsAsItsValueAndIsWrittenBack) {
-  std::vector<std::pair<char const*, WLCBT_OPERSTATE>> const rows{
-      {"up", WLCBT_OPERSTATE::UP},
-      {"down", WLCBT_OPERSTATE::DOWN},
-      {"unknown", WLCBT_OPERSTATE::UNKNOWN},
-      {"notpresent", WLCBT_OPERSTATE::NOTPRESENT},
-      {"lowerlayerdown", WLCBT_OPERSTATE::LOWERLAYERDOWN},
-      {"testing", WLCBT_OPERSTATE::TESTING},
-      {"dormant", WLCBT_OPERSTATE::DORMANT},
-  };
-  for (auto const& [text, value] : rows) {
+  for (auto const& [text, value] : wlccw::test::link_state_texts()) {
     SCOPED_TRACE(text);
     Info const info = read_one(std::string(R"({"operstate":")") + text + R"("})");
     EXPECT_EQ(info.operstate, value);

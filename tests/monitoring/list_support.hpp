@@ -6,11 +6,28 @@
 #include <support/samples.hpp>
 
 #include <wlccw/cfg/owned.hpp>
+#include <wlccw/monitoring/NcIpcApMonitoringInterfaces.hpp>
 
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace wlccw::test {
+
+/// Every link-state text an AP sends for an interface or an Ethernet port, with its value.
+inline std::vector<std::pair<char const*, WLCBT_OPERSTATE>> const& link_state_texts() {
+  static std::vector<std::pair<char const*, WLCBT_OPERSTATE>> const rows{
+      {"up", WLCBT_OPERSTATE::UP},
+      {"down", WLCBT_OPERSTATE::DOWN},
+      {"unknown", WLCBT_OPERSTATE::UNKNOWN},
+      {"notpresent", WLCBT_OPERSTATE::NOTPRESENT},
+      {"lowerlayerdown", WLCBT_OPERSTATE::LOWERLAYERDOWN},
+      {"testing", WLCBT_OPERSTATE::TESTING},
+      {"dormant", WLCBT_OPERSTATE::DORMANT},
+  };
+  return rows;
+}
 
 /// The list that Record::from_netconf reads from the members of an object text such as
 /// {"interface":[...]}.
