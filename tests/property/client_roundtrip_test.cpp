@@ -34,8 +34,10 @@
 namespace {
 
 using wlccw::test::for_each_seed;
+using wlccw::test::list_length;
 using wlccw::test::Random;
 using wlccw::test::seed_count;
+using wlccw::test::up_to_nul;
 using Metrics = AntennaSignalMetrics<std::greater<int>, std::less<int>>;
 using Statistic = APClientData::Statistics::Statistic;
 
@@ -70,26 +72,6 @@ std::string non_empty_text(Random& random, std::size_t max_length = 16) {
     text.insert(0, random.coin() ? "w" : "\"");
   }
   return text;
-}
-
-/// The text up to its first NUL byte: what a writer that takes a C string writes.
-std::string up_to_nul(std::string text) {
-  text.resize(std::min(text.size(), text.find('\0')));
-  return text;
-}
-
-/// The length of a generated list: empty, one element or many, up to long_length.
-std::size_t list_length(Random& random, std::size_t long_length) {
-  switch (random.integer(0, 3)) {
-  case 0:
-    return 0;
-  case 1:
-    return 1;
-  case 2:
-    return random.integer<std::size_t>(2, 4);
-  default:
-    return random.integer<std::size_t>(2, long_length);
-  }
 }
 
 // Enumerator counts of the client tables; CountsCoverEveryEnumerator checks them.

@@ -30,7 +30,9 @@
 namespace {
 
 using wlccw::test::for_each_seed;
+using wlccw::test::list_length;
 using wlccw::test::Random;
+using wlccw::test::up_to_nul;
 
 // ---- Generators -----------------------------------------------------------------------------
 
@@ -59,28 +61,8 @@ std::string any_text(Random& random, std::size_t max_length = 24) {
   return out;
 }
 
-/// The text up to its first NUL byte: what a writer that takes a C string writes.
-std::string up_to_nul(std::string text) {
-  text.resize(std::min(text.size(), text.find('\0')));
-  return text;
-}
-
 std::optional<std::string> maybe_text(Random& random) {
   return random.maybe([&random] { return any_text(random); });
-}
-
-/// The length of a generated list: empty, one element or many, up to long_length.
-std::size_t list_length(Random& random, std::size_t long_length) {
-  switch (random.integer(0, 3)) {
-  case 0:
-    return 0;
-  case 1:
-    return 1;
-  case 2:
-    return random.integer<std::size_t>(2, 4);
-  default:
-    return random.integer<std::size_t>(2, long_length);
-  }
 }
 
 /// Every named value of a table and its "no name" value, and now and then a value outside both

@@ -6,7 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <string>
 
 namespace wlccw::test {
 
@@ -23,6 +26,26 @@ template <typename Check> void for_each_seed(Check&& check) {
     if (::testing::Test::HasFailure()) {
       return;
     }
+  }
+}
+
+/// The text up to its first NUL byte: what a writer that takes a C string writes.
+inline std::string up_to_nul(std::string text) {
+  text.resize(std::min(text.size(), text.find('\0')));
+  return text;
+}
+
+/// The length of a generated list: empty, one element or many, up to long_length.
+inline std::size_t list_length(Random& random, std::size_t long_length) {
+  switch (random.integer(0, 3)) {
+  case 0:
+    return 0;
+  case 1:
+    return 1;
+  case 2:
+    return random.integer<std::size_t>(2, 4);
+  default:
+    return random.integer<std::size_t>(2, long_length);
   }
 }
 

@@ -45,6 +45,7 @@ namespace {
 
 using wlccw::test::for_each_seed;
 using wlccw::test::Random;
+using wlccw::test::up_to_nul;
 
 // ---- Values -------------------------------------------------------------------------------------
 
@@ -86,11 +87,6 @@ std::string text_with_nul(Random& rnd) {
     }
   }
   return text;
-}
-
-/// What a writer that takes a C string writes of a text: everything before its first NUL.
-std::string cut_at_nul(std::string const& text) {
-  return text.substr(0, text.find('\0'));
 }
 
 /// An IPv4 address: mostly a parsed one, also the default (invalid) value and random octets whose
@@ -248,15 +244,15 @@ IpcMsgRrmApInfo rrm_after_trip(IpcMsgRrmApInfo const& info, bool& text_kept) {
     return out;
   }
   out.ip = info.ip;
-  out.type = cut_at_nul(info.type);
-  out.location = cut_at_nul(info.location);
+  out.type = up_to_nul(info.type);
+  out.location = up_to_nul(info.location);
   if (out.type.empty() || out.location.empty()) {
     text_kept = false;
   }
   for (auto const& [name, vap] : info.interfaces) {
     bool const inserted =
         out.interfaces
-            .try_emplace(cut_at_nul(name), cut_at_nul(vap.ssid), band_after_trip(vap.band),
+            .try_emplace(up_to_nul(name), up_to_nul(vap.ssid), band_after_trip(vap.band),
                          vap_number_after_trip(vap.radio_id), vap_number_after_trip(vap.vap_id))
             .second;
     text_kept = text_kept && inserted;
@@ -347,8 +343,8 @@ void fill_vap(Random& rnd, Vap& vap) {
 /// when absent (the default address and "off"), and one whose mode has no text of its own is
 /// written as "UNKNOWN" and rejected.
 bool vap_after_trip(Vap& vap) {
-  vap.interface = cut_at_nul(vap.interface);
-  vap.radio = cut_at_nul(vap.radio);
+  vap.interface = up_to_nul(vap.interface);
+  vap.radio = up_to_nul(vap.radio);
   if (vap.band != ApProfileRadioBand::BAND_2_4_GHZ && vap.band != ApProfileRadioBand::BAND_5_GHZ &&
       vap.band != ApProfileRadioBand::BAND_6_GHZ) {
     vap.band = ApProfileRadioBand::UNKNOWN;
@@ -403,8 +399,8 @@ TEST(ServiceRoundTrip, FullVapData) {
     original.ap_location = text_with_nul(rnd);
     FullVapData expected = original;
     bool const accepted = vap_after_trip(expected);
-    expected.ap_hostname = cut_at_nul(expected.ap_hostname);
-    expected.ap_location = cut_at_nul(expected.ap_location);
+    expected.ap_hostname = up_to_nul(expected.ap_hostname);
+    expected.ap_location = up_to_nul(expected.ap_location);
     std::string const text = vap_text(original);
     wlccw::cfg::Tree const tree = wlccw::cfg::parse(text);
     ASSERT_TRUE(tree) << text;
@@ -732,7 +728,7 @@ TEST(ServiceRoundTrip, VelmoraResponse) {
                           : VelmoraRespStatus::UNKNOWN;
     // The cause is written only when not empty, as a C string; a cause that starts with NUL is
     // written as "" and reads back empty, which the read-back record does not write at all.
-    expected.cause = cut_at_nul(original.cause);
+    expected.cause = up_to_nul(original.cause);
     bool const text_kept = data.is_json && (original.cause.empty() || !expected.cause.empty());
     expected.data = data.after_trip;
 
@@ -789,7 +785,7 @@ IpcMsgGreData make_gre_data(Random& rnd) {
 IpcMsgGreData gre_after_trip(IpcMsgGreData const& data, bool& text_kept) {
   IpcMsgGreData out;
   for (std::string const& office : data.offices) {
-    out.offices.insert(cut_at_nul(office));
+    out.offices.insert(up_to_nul(office));
   }
   // A set holding only a null entry is written as an empty member, which a set read back
   // empty does not write.
@@ -799,13 +795,13 @@ IpcMsgGreData gre_after_trip(IpcMsgGreData const& data, bool& text_kept) {
   for (auto const& info : data.macs) {
     if (info) {
       out.macs.insert(std::make_shared<IpcMsgGreData::MacInfo>(
-          IpcMsgGreData::MacInfo{info->mac, cut_at_nul(info->office)}));
+          IpcMsgGreData::MacInfo{info->mac, up_to_nul(info->office)}));
     }
   }
   for (auto const& pool : data.ip_pools) {
     if (pool) {
       auto copy = std::make_shared<IpcMsgGreData::IpPoolInfo>(*pool);
-      copy->office = cut_at_nul(copy->office);
+      copy->office = up_to_nul(copy->office);
       out.ip_pools.insert(std::move(copy));
     }
   }
@@ -849,7 +845,7 @@ TEST(ServiceRoundTrip, VrrpUpdateBoardTypes) {
     IpcMsgVrrpUpdateBoardTypes expected;
     for (auto const& [mac, desc] : original.aps) {
       expected.aps.try_emplace(mac, IpcMsgVrrpUpdateBoardTypes::BoardTypeDesc{
-                                        cut_at_nul(desc.board_type), cut_at_nul(desc.sw_version)});
+                                        up_to_nul(desc.board_type), up_to_nul(desc.sw_version)});
     }
 
     std::string const text = original.to_str();
@@ -893,7 +889,7 @@ TEST(ServiceRoundTrip, DasProxyConfig) {
       config.enabled = rnd.coin();
       // The secret is written as a C string; the address comes back valid.
       expected.append_ap_cfg(IpcDasProxyConfig::Config(config.mac, ip_after_trip(config.ip),
-                                                       cut_at_nul(config.key), config.port,
+                                                       up_to_nul(config.key), config.port,
                                                        config.enabled));
       original.append_ap_cfg(std::move(config));
     }
@@ -956,7 +952,7 @@ ClientCoaProxyInfo coa_after_trip(ClientCoaProxyInfo const& info) {
     return ClientCoaProxyInfo::no_config(info.client_mac, info.ap_mac);
   case CoaState::has_data:
     return ClientCoaProxyInfo::with_data(info.client_mac, info.ap_mac, ip_after_trip(info.ip),
-                                         info.port, cut_at_nul(info.password), info.enabled);
+                                         info.port, up_to_nul(info.password), info.enabled);
   default:
     return ClientCoaProxyInfo::no_bind(info.client_mac);
   }
@@ -1037,10 +1033,10 @@ TEST(ServiceRoundTrip, SaApsInfo) {
       // Texts are written as C strings, the address comes back valid, and a stage outside the
       // table is written as "" and reads as NONE.
       ap.ip = ip_after_trip(ap.ip);
-      ap.board_type = cut_at_nul(ap.board_type);
-      ap.sw_version = cut_at_nul(ap.sw_version);
-      ap.hw_version = cut_at_nul(ap.hw_version);
-      ap.serial = cut_at_nul(ap.serial);
+      ap.board_type = up_to_nul(ap.board_type);
+      ap.sw_version = up_to_nul(ap.sw_version);
+      ap.hw_version = up_to_nul(ap.hw_version);
+      ap.serial = up_to_nul(ap.serial);
       if (static_cast<std::uint32_t>(ap.status) >
           static_cast<std::uint32_t>(WLCBT_SA_STATUS::UPGRADING_FW)) {
         ap.status = WLCBT_SA_STATUS::NONE;
@@ -1072,13 +1068,13 @@ TEST(ServiceRoundTrip, ApLocationsData) {
     // member, at the place of the first of them, filled by the last.
     std::vector<ApLocationsData::ApLocation> expected;
     for (ApLocationsData::ApLocation const& location : original.locations()) {
-      std::string const id = cut_at_nul(location.id);
+      std::string const id = up_to_nul(location.id);
       auto const same_id = std::find_if(expected.begin(), expected.end(),
                                         [&id](auto const& other) { return other.id == id; });
       if (same_id != expected.end()) {
-        same_id->time_zone = cut_at_nul(location.time_zone);
+        same_id->time_zone = up_to_nul(location.time_zone);
       } else {
-        expected.emplace_back(id, cut_at_nul(location.time_zone));
+        expected.emplace_back(id, up_to_nul(location.time_zone));
       }
     }
     std::string const text = original.to_str();
