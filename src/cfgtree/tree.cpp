@@ -19,6 +19,8 @@
 
 #include <wlccw/cfg/tree.hpp>
 
+#include "detail/json_text.hpp"
+
 #include <boost/json/basic_parser_impl.hpp>
 
 #include <algorithm>
@@ -42,6 +44,18 @@ namespace {
 enum class Kind : std::uint8_t { Null, Bool, Int, UInt, Double, String, Array, Object };
 
 struct MemberIndex;
+struct Doc;
+
+// How an object finds its members by name.
+enum class Lookup : std::uint8_t {
+  // From the member found last (c.hint): the way to read a parsed object in document order.
+  Hint,
+  // Through a hash index (c.index), once scans have grown long.
+  Index,
+  // Through a filter of the names present (c.filter): an object being written member by member
+  // learns in constant time that a new name is new.
+  Filter,
+};
 
 } // namespace
 
@@ -53,11 +67,16 @@ struct lcw_data_t {
   std::uint32_t key_len = 0;
   Kind kind = Kind::Null;
   bool boolean = false;
+  Lookup lookup = Lookup::Hint; // objects: which member of the union below is in use
   struct Children {
     lcw_data_t* first;
     lcw_data_t* last;
-    lcw_data_t* hint;   // the member found last (objects): lookups start next to it
-    MemberIndex* index; // hash index of the members of a large object, or null
+    union {
+      lcw_data_t* hint;     // the member found last: lookups start next to it
+      MemberIndex* index;   // the hash index of a large object's members, holding the hint
+      std::uint64_t filter; // two bits for each member name present (key_bits)
+    };
+    Doc* doc; // the root of the tree, whose arena holds this node's children
   };
   struct Text {
     char const* text; // NUL-terminated string bytes or number text
@@ -72,7 +91,7 @@ struct lcw_data_t {
     Text s;     // strings and numbers
   };
 
-  lcw_data_t() : c{nullptr, nullptr, nullptr, nullptr} {}
+  lcw_data_t() : c{nullptr, nullptr, {nullptr}, nullptr} {}
   bool is_container() const noexcept { return kind == Kind::Array || kind == Kind::Object; }
 };
 
@@ -151,23 +170,62 @@ private:
   std::size_t next_size_ = 1024;
 };
 
-// A root node together with the storage of its whole tree.
-struct Doc : lcw_data_t {
-  Arena arena;
-  std::string out; // the last serialised text of any node of this tree
+// Room for a serialised text: grows by doubling and, unlike a std::string, leaves new room
+// uncleared, since every byte of it is written before it is read.
+class TextBuffer {
+public:
+  TextBuffer() = default;
+  TextBuffer(TextBuffer const&) = delete;
+  TextBuffer& operator=(TextBuffer const&) = delete;
+  ~TextBuffer() { std::free(data_); }
+
+  char* data() noexcept { return data_; }
+  std::size_t capacity() const noexcept { return capacity_; }
+  void reserve(std::size_t bytes) {
+    if (bytes <= capacity_) {
+      return;
+    }
+    std::size_t const grown = std::max({bytes, capacity_ * 2, std::size_t{256}});
+    void* const moved = std::realloc(data_, grown);
+    if (moved == nullptr) {
+      throw std::bad_alloc();
+    }
+    data_ = static_cast<char*>(moved);
+    capacity_ = grown;
+  }
+
+private:
+  char* data_ = nullptr;
+  std::size_t capacity_ = 0;
 };
 
+// A root node together with the storage of its whole tree.
+struct Doc : lcw_data_t {
+  Doc() { c.doc = this; }
+  Arena arena;
+  TextBuffer out; // the last serialised text of any node of this tree, NUL-terminated
+};
+
+// The root of a node's tree in constant time: every container knows it, a scalar asks its parent,
+// and a root without a parent is the root.
 Doc* doc_of(lcw_data_t const* node) {
-  while (node->parent != nullptr) {
-    node = node->parent;
+  if (node->is_container()) {
+    return node->c.doc;
   }
-  return static_cast<Doc*>(const_cast<lcw_data_t*>(node));
+  if (node->parent == nullptr) {
+    return static_cast<Doc*>(const_cast<lcw_data_t*>(node));
+  }
+  return node->parent->c.doc;
 }
 
 Doc* new_doc(Kind kind) {
   auto* d = new (std::nothrow) Doc();
   if (d != nullptr) {
     d->kind = kind;
+    if (kind == Kind::Object) {
+      d->lookup = Lookup::Filter;
+      d->c.filter = 0;
+    }
   }
   return d;
 }
@@ -188,7 +246,44 @@ struct MemberIndex {
                     // twice the count
   std::size_t count;
   lcw_data_t** slots;
+  lcw_data_t* hint; // the object's hint, which the index displaces from the node
 };
+
+MemberIndex* index_of(lcw_data_t const* object) {
+  return object->lookup == Lookup::Index ? object->c.index : nullptr;
+}
+
+// The bits a member name sets in an object's filter: two of 64, from the name's length and its
+// first, middle and last eight bytes.
+std::uint64_t key_bits(char const* p, std::size_t n) {
+  std::uint64_t h = (n + 1) * 0x9E3779B97F4A7C15ULL;
+  if (n >= 8) {
+    std::uint64_t head;
+    std::uint64_t tail;
+    std::memcpy(&head, p, 8);
+    std::memcpy(&tail, p + n - 8, 8);
+    h ^= head * 0xC2B2AE3D27D4EB4FULL;
+    h ^= (tail ^ (tail >> 29U)) * 0x165667B19E3779F9ULL;
+    if (n > 16) {
+      std::uint64_t middle;
+      std::memcpy(&middle, p + n / 2 - 4, 8);
+      h ^= (middle ^ (middle >> 31U)) * 0x27D4EB2F165667C5ULL;
+    }
+  } else if (n >= 4) {
+    std::uint32_t head;
+    std::uint32_t tail;
+    std::memcpy(&head, p, 4);
+    std::memcpy(&tail, p + n - 4, 4);
+    h ^= (head | (std::uint64_t{tail} << 32U)) * 0xC2B2AE3D27D4EB4FULL;
+  } else if (n > 0) {
+    auto const byte = [p](std::size_t i) {
+      return std::uint64_t{static_cast<unsigned char>(p[i])};
+    };
+    h ^= (byte(0) | (byte(n / 2) << 8U) | (byte(n - 1) << 16U)) * 0xC2B2AE3D27D4EB4FULL;
+  }
+  h ^= h >> 32U;
+  return (std::uint64_t{1} << (h & 63U)) | (std::uint64_t{1} << ((h >> 6U) & 63U));
+}
 
 constexpr std::size_t index_after_scanning = 64;
 
@@ -238,6 +333,7 @@ MemberIndex* build_index(Arena& arena, lcw_data_t* object, std::size_t members) 
   auto* ix = arena.make<MemberIndex>();
   ix->mask = capacity - 1;
   ix->count = 0;
+  ix->hint = object->lookup == Lookup::Hint ? object->c.hint : nullptr;
   ix->slots = static_cast<lcw_data_t**>(
       arena.allocate(capacity * sizeof(lcw_data_t*), alignof(lcw_data_t*)));
   std::memset(static_cast<void*>(ix->slots), 0, capacity * sizeof(lcw_data_t*));
@@ -245,10 +341,13 @@ MemberIndex* build_index(Arena& arena, lcw_data_t* object, std::size_t members) 
     index_put(ix, m);
   }
   object->c.index = ix;
+  object->lookup = Lookup::Index;
   return ix;
 }
 
-void append_child(lcw_data_t* parent, lcw_data_t* child) {
+// Appends a node to a container. `bits` are the key_bits of the node's name when the caller has
+// them already (zero: not known, worked out here if the parent filters names).
+void append_child(lcw_data_t* parent, lcw_data_t* child, std::uint64_t bits = 0) {
   child->parent = parent;
   child->next = nullptr;
   if (parent->c.last == nullptr) {
@@ -257,7 +356,9 @@ void append_child(lcw_data_t* parent, lcw_data_t* child) {
     parent->c.last->next = child;
   }
   parent->c.last = child;
-  if (MemberIndex* ix = parent->c.index) {
+  if (parent->lookup == Lookup::Filter) {
+    parent->c.filter |= bits != 0 ? bits : key_bits(child->key, child->key_len);
+  } else if (MemberIndex* ix = index_of(parent)) {
     if ((ix->count + 1) * 2 > ix->mask + 1) {
       build_index(doc_of(parent)->arena, parent,
                   ix->count + 1); // grows; the old table is left
@@ -265,6 +366,37 @@ void append_child(lcw_data_t* parent, lcw_data_t* child) {
       index_put(ix, child);
     }
   }
+}
+
+// Counts the members of an object and gives it a hash index of them.
+void index_members(lcw_data_t* object) {
+  std::size_t members = 0;
+  for (lcw_data_t const* m = object->c.first; m != nullptr; m = m->next) {
+    ++members;
+  }
+  build_index(doc_of(object)->arena, object, members);
+}
+
+// The member with the given name in an object that filters names. A name the filter lacks is
+// absent; otherwise the members are scanned. Once a name is found the object is being read, and
+// it turns to hint lookups, which read in document order in constant time.
+lcw_data_t* find_filtered_member(lcw_data_t* object, char const* key, std::size_t len) {
+  std::uint64_t const bits = key_bits(key, len);
+  if ((object->c.filter & bits) != bits) {
+    return nullptr;
+  }
+  std::size_t scanned = 0;
+  for (lcw_data_t* m = object->c.first; m != nullptr; m = m->next, ++scanned) {
+    if (key_is(m, key, len)) {
+      object->lookup = Lookup::Hint;
+      object->c.hint = m;
+      return m;
+    }
+  }
+  if (scanned >= index_after_scanning) {
+    index_members(object);
+  }
+  return nullptr;
 }
 
 // The member with the given name. The object remembers the member found last: its successor is
@@ -276,21 +408,25 @@ lcw_data_t* find_member(lcw_data_t const* node, char const* key, std::size_t len
     return nullptr;
   }
   auto* object = const_cast<lcw_data_t*>(node);
-  lcw_data_t* const last = object->c.hint;
+  if (object->lookup == Lookup::Filter) {
+    return find_filtered_member(object, key, len);
+  }
+  lcw_data_t*& hint = object->lookup == Lookup::Index ? object->c.index->hint : object->c.hint;
+  lcw_data_t* const last = hint;
   lcw_data_t* const next = last != nullptr && last->next != nullptr ? last->next : object->c.first;
   if (next == nullptr) {
     return nullptr;
   }
   if (key_is(next, key, len)) {
-    object->c.hint = next;
+    hint = next;
     return next;
   }
   if (last != nullptr && key_is(last, key, len)) {
     return last;
   }
   lcw_data_t* found = nullptr;
-  if (object->c.index != nullptr) {
-    found = index_find(object->c.index, key, len);
+  if (MemberIndex const* ix = index_of(object)) {
+    found = index_find(ix, key, len);
   } else {
     std::size_t scanned = 0;
     for (lcw_data_t* m = next->next; m != nullptr && found == nullptr; m = m->next, ++scanned) {
@@ -304,15 +440,12 @@ lcw_data_t* find_member(lcw_data_t const* node, char const* key, std::size_t len
       }
     }
     if (scanned >= index_after_scanning) {
-      std::size_t members = 0;
-      for (lcw_data_t const* m = object->c.first; m != nullptr; m = m->next) {
-        ++members;
-      }
-      build_index(doc_of(object)->arena, object, members);
+      index_members(object);
     }
   }
   if (found != nullptr) {
-    object->c.hint = found;
+    // The index may have been built just now, and it holds the hint from then on.
+    (object->lookup == Lookup::Index ? object->c.index->hint : object->c.hint) = found;
   }
   return found;
 }
@@ -327,12 +460,16 @@ lcw_data_t* find_member(lcw_data_t const* node, char const* key) {
 // Turns a node into an empty value of the given kind, keeping its place and
 // name.
 void reset_value(lcw_data_t* node, Kind kind) {
+  Doc* const doc = doc_of(node);
   node->kind = kind;
   node->boolean = false;
+  // An object made by a writer filters its names: writers mostly add names that are new.
+  node->lookup = kind == Kind::Object ? Lookup::Filter : Lookup::Hint;
   node->c.first = nullptr;
   node->c.last = nullptr;
   node->c.hint = nullptr;
-  node->c.index = nullptr;
+  node->c.filter = 0;
+  node->c.doc = doc;
 }
 
 // The node that a write to member `key` of `parent` fills: the existing member
@@ -358,13 +495,24 @@ lcw_data_t* slot(lcw_data_t* parent, char const* key) {
   if (len > max_text_len) {
     return nullptr;
   }
-  if (lcw_data_t* existing = find_member(parent, key, len)) {
+  std::uint64_t bits = 0;
+  if (parent->lookup == Lookup::Filter) {
+    // Writers mostly add new names: the filter tells most of them apart without a lookup.
+    bits = key_bits(key, len);
+    if ((parent->c.filter & bits) == bits) {
+      if (lcw_data_t* existing = find_filtered_member(parent, key, len)) {
+        return existing;
+      }
+    }
+  } else if (lcw_data_t* existing = find_member(parent, key, len)) {
     return existing;
   }
-  auto* node = doc_of(parent)->arena.make<lcw_data_t>();
-  node->key = doc_of(parent)->arena.copy(key, len);
+  Arena& arena = doc_of(parent)->arena;
+  auto* node = arena.make<lcw_data_t>();
+  node->key = arena.copy(key, len);
   node->key_len = static_cast<std::uint32_t>(len);
-  append_child(parent, node);
+  // The parent may have turned from filtering to another lookup on the way.
+  append_child(parent, node, parent->lookup == Lookup::Filter ? bits : 0);
   return node;
 }
 
@@ -379,8 +527,7 @@ void set_string(lcw_data_t* node, char const* text, std::size_t len) {
 
 template <typename T> void set_integer(lcw_data_t* node, T value) {
   char buf[24];
-  auto const r = std::to_chars(buf, buf + sizeof buf, value);
-  auto const len = static_cast<std::size_t>(r.ptr - buf);
+  std::size_t const len = wlccw::detail::json_integer_text(buf, value);
   if constexpr (std::is_signed_v<T>) {
     reset_value(node, Kind::Int);
     node->s.v.i = static_cast<std::int64_t>(value);
@@ -602,6 +749,9 @@ private:
       append_child(top_, n);
     }
     n->kind = kind;
+    if (n->is_container()) {
+      n->c.doc = doc_;
+    }
     return n;
   }
 
@@ -641,20 +791,17 @@ private:
 // -------------------------------------------------------------------------------
 
 // An output buffer written through a raw cursor: room is made once per piece,
-// not per character.
+// not per character. The text is NUL-terminated when the writer is done.
 class Writer {
 public:
-  explicit Writer(std::string& out) : out_(out) {
-    out_.resize(std::max<std::size_t>(out_.capacity(), 256));
-    pos_ = 0;
-  }
+  explicit Writer(TextBuffer& out) : out_(out) {}
   Writer(Writer const&) = delete;
   Writer& operator=(Writer const&) = delete;
-  ~Writer() { out_.resize(pos_); }
+  ~Writer() = default;
 
   char* room(std::size_t n) {
-    if (out_.size() - pos_ < n) {
-      out_.resize(std::max(out_.size() * 2, pos_ + n));
+    if (out_.capacity() - pos_ < n) {
+      out_.reserve(pos_ + n);
     }
     return out_.data() + pos_;
   }
@@ -667,55 +814,19 @@ public:
     std::memcpy(room(n), p, n);
     pos_ += n;
   }
+  /// Terminates the text; returns it.
+  char const* finish() {
+    *room(1) = '\0';
+    return out_.data();
+  }
 
 private:
-  std::string& out_;
-  std::size_t pos_;
+  TextBuffer& out_;
+  std::size_t pos_ = 0;
 };
 
-// For each byte, 0 when it is written as it is, otherwise the letter of its
-// short escape or 'u'. JSON requires escaping only the quote, the backslash and
-// control characters.
-constexpr std::array<char, 256> escape_table = [] {
-  std::array<char, 256> t{};
-  for (int ch = 0; ch < 0x20; ++ch) {
-    t[static_cast<std::size_t>(ch)] = 'u';
-  }
-  t['"'] = '"';
-  t['\\'] = '\\';
-  t['\n'] = 'n';
-  t['\r'] = 'r';
-  t['\t'] = 't';
-  t['\b'] = 'b';
-  t['\f'] = 'f';
-  return t;
-}();
-
 void write_string(Writer& w, char const* p, std::size_t n) {
-  static constexpr char hex[] = "0123456789abcdef";
-  // Worst case every byte becomes a six-character escape.
-  char* const begin = w.room(n * 6 + 2);
-  char* o = begin;
-  *o++ = '"';
-  for (std::size_t i = 0; i < n; ++i) {
-    auto const ch = static_cast<unsigned char>(p[i]);
-    char const esc = escape_table[ch];
-    if (esc == 0) {
-      *o++ = static_cast<char>(ch);
-    } else if (esc != 'u') {
-      *o++ = '\\';
-      *o++ = esc;
-    } else {
-      *o++ = '\\';
-      *o++ = 'u';
-      *o++ = '0';
-      *o++ = '0';
-      *o++ = hex[ch >> 4U];
-      *o++ = hex[ch & 0xFU];
-    }
-  }
-  *o++ = '"';
-  w.advance(static_cast<std::size_t>(o - begin));
+  wlccw::detail::write_json_string(w, p, n);
 }
 
 void write_scalar(Writer& w, lcw_data_t const* n) {
@@ -890,11 +1001,9 @@ char const* cfg_serialize_compact(lcw_data_t const* node) {
     return "";
   }
   Doc* doc = doc_of(node);
-  {
-    Writer w(doc->out);
-    write_node(w, node);
-  }
-  return doc->out.c_str();
+  Writer w(doc->out);
+  write_node(w, node);
+  return w.finish();
 }
 
 std::string cfg_create_string_compact(std::function<lcw_data_t*()> const& make_root,

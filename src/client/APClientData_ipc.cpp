@@ -2,6 +2,8 @@
 // and the command-line summary of how the client authenticated.
 #include <wlccw/client/APClientData.hpp>
 
+#include "detail/client_ipc.hpp"
+
 #include <wlccw/cfg/owned.hpp>
 #include <wlccw/common/errors.hpp>
 
@@ -25,33 +27,35 @@ using Metrics = AntennaSignalMetrics<std::greater<int>, std::less<int>>;
 
 /// Writes a signal metric as the list of its readings under list_key and its representative value
 /// under value_key; nothing at all when there is no reading (a reported value alone is not sent).
-void write_signal(lcw_data_t* object, char const* list_key, char const* value_key,
+template <typename Sink>
+void write_signal(Sink& object, char const* list_key, char const* value_key,
                   Metrics const& metrics) {
   if (metrics.values.empty()) {
     return;
   }
-  if (lcw_data_t* const list = cfg_insert_empty_array_or_exists(object, list_key)) {
+  if (Sink list = object.array_or_existing(list_key)) {
     for (int const value : metrics.values) {
-      cfg_insert_child_int(list, nullptr, value);
+      list.append_int(value);
     }
   }
-  cfg_set_int_param(object, value_key, metrics.get_signal());
+  object.set_int(value_key, metrics.get_signal());
 }
 
 /// Writes one direction of the traffic counters into the object key of statistics (reused if it is
 /// there); skipped when that object cannot be made.
-void write_statistic(lcw_data_t* statistics, char const* key, Statistic const& statistic) {
-  lcw_data_t* const direction = cfg_insert_empty_subtree_or_exists(statistics, key);
-  if (direction == nullptr) {
+template <typename Sink>
+void write_statistic(Sink& statistics, char const* key, Statistic const& statistic) {
+  Sink direction = statistics.object_or_existing(key);
+  if (!direction) {
     return;
   }
-  cfg_set_param_opt(direction, "rate", statistic.rate);
-  cfg_set_param_opt(direction, "bandwidth", statistic.bandwidth);
-  cfg_set_param_opt(direction, "modulation", statistic.modulation);
-  cfg_set_param_opt(direction, "rate-numeric", statistic.rate_numeric);
-  cfg_set_int32_param(direction, "actual-rate", statistic.actual_rate);
-  cfg_set_int32_param(direction, "bytes", statistic.bytes);
-  cfg_set_int32_param(direction, "packets", statistic.packets);
+  direction.set_param_opt("rate", statistic.rate);
+  direction.set_param_opt("bandwidth", statistic.bandwidth);
+  direction.set_param_opt("modulation", statistic.modulation);
+  direction.set_param_opt("rate-numeric", statistic.rate_numeric);
+  direction.set_int32("actual-rate", statistic.actual_rate);
+  direction.set_int32("bytes", statistic.bytes);
+  direction.set_int32("packets", statistic.packets);
 }
 
 // ---- Reading --------------------------------------------------------------------------------
@@ -169,86 +173,106 @@ std::optional<std::string_view> auth_suffix(Mac mac, Portal portal) {
 
 } // namespace
 
+namespace wlccw::detail {
+
+template <typename Sink> void write_client_ipc(Sink& object, APClientData const& client) {
+  char mac_text[18];
+  client.mac.format(mac_text);
+  object.set_param("mac", mac_text);
+  object.set_param("interface", client.interface.c_str());
+  object.set_param("ssid", client.ssid.c_str());
+
+  // Only the three known bands have a text; a value forced in from outside is left out rather
+  // than thrown, so writing never fails on content.
+  if (client.band) {
+    if (std::optional<std::string_view> const text = radio::band::to_str_opt(*client.band)) {
+      object.set_param("band", std::string(*text).c_str());
+    }
+  }
+  if (client.ip.valid) {
+    char ip_text[16]; // "255.255.255.255"
+    client.ip.format(ip_text);
+    object.set_param("ip", ip_text);
+  }
+
+  object.set_uint32_opt("vlan-id", client.vlan_id);
+  object.set_param_opt("hostname", client.hostname);
+  object.set_param_opt("username", client.username);
+  object.set_param_opt("domain", client.domain);
+  object.set_param_opt("ap-hostname", client.ap_hostname);
+  object.set_param_opt("ap-location", client.ap_location);
+  object.set_uint32_opt("uptime", client.uptime);
+  object.set_uint32_opt("frequency", client.frequency);
+  object.set_uint32_opt("channel", client.channel);
+
+  write_signal(object, "rssi-list", "rssi", client.rssi);
+  write_signal(object, "snr-list", "snr", client.snr);
+
+  object.set_boolean_opt("authorized", client.authorized);
+  object.set_param_opt("wireless-mode", convert_to_ipc_str(client.wireless_mode));
+  object.set_param_opt("link-quality", client.link_quality);
+  object.set_param_opt("link-quality-common", client.link_quality_common);
+
+  // A record without statistics carries nothing more: no authentication, multi-link or cipher
+  // keys. Receivers rely on this shape, so the cut-off stays.
+  if (!client.statistics) {
+    return;
+  }
+  {
+    Sink statistics = object.object_or_existing("statistics");
+    if (!statistics) {
+      return;
+    }
+    write_statistic(statistics, "tx", client.statistics->tx);
+    write_statistic(statistics, "rx", client.statistics->rx);
+  }
+
+  object.set_param_opt("eap-method", convert_to_ipc_str(client.eap_method));
+  object.set_param_opt("mac-auth-status", convert_to_ipc_str(client.mac_auth_status));
+  object.set_param_opt("portal-auth-status", convert_to_ipc_str(client.portal_auth_status));
+  object.set_param_opt("wlan-auth-status", convert_to_ipc_str(client.wlan_auth_status));
+  object.set_param_opt("wlan-auth-method", convert_to_ipc_str(client.wlan_auth_method));
+  object.set_param_opt("auth-algorithm", convert_to_ipc_str(client.auth_algorithm));
+
+  object.set_uint32_opt("wlan-auth-uptime", client.wlan_auth_uptime);
+  object.set_uint32_opt("mac-auth-uptime", client.mac_auth_uptime);
+  object.set_uint32_opt("portal-auth-uptime", client.portal_auth_uptime);
+
+  if (client.mlo) {
+    write_mlo_ipc(object, *client.mlo);
+  }
+
+  object.set_param_opt("encryption-cipher", client.encryption_cipher);
+  object.set_param_opt("encryption-group-cipher", client.encryption_group_cipher);
+}
+
+template void write_client_ipc<TreeSink>(TreeSink&, APClientData const&);
+template void write_client_ipc<TextSink>(TextSink&, APClientData const&);
+
+} // namespace wlccw::detail
+
 void APClientData::to_json(lcw_data_t* object) const {
   if (object == nullptr) {
     return;
   }
-  char mac_text[18];
-  mac.format(mac_text);
-  cfg_set_param(object, "mac", mac_text);
-  cfg_set_param(object, "interface", interface.c_str());
-  cfg_set_param(object, "ssid", ssid.c_str());
-
-  // Only the three known bands have a text; a value forced in from outside is left out rather
-  // than thrown, so writing never fails on content.
-  if (band) {
-    if (std::optional<std::string_view> const text = radio::band::to_str_opt(*band)) {
-      cfg_set_param(object, "band", std::string(*text).c_str());
-    }
-  }
-  if (ip.valid) {
-    char ip_text[16]; // "255.255.255.255"
-    std::snprintf(ip_text, sizeof ip_text, "%u.%u.%u.%u", unsigned{ip.octets[0]},
-                  unsigned{ip.octets[1]}, unsigned{ip.octets[2]}, unsigned{ip.octets[3]});
-    cfg_set_param(object, "ip", ip_text);
-  }
-
-  cfg_set_uint32_param_opt(object, "vlan-id", vlan_id);
-  cfg_set_param_opt(object, "hostname", hostname);
-  cfg_set_param_opt(object, "username", username);
-  cfg_set_param_opt(object, "domain", domain);
-  cfg_set_param_opt(object, "ap-hostname", ap_hostname);
-  cfg_set_param_opt(object, "ap-location", ap_location);
-  cfg_set_uint32_param_opt(object, "uptime", uptime);
-  cfg_set_uint32_param_opt(object, "frequency", frequency);
-  cfg_set_uint32_param_opt(object, "channel", channel);
-
-  write_signal(object, "rssi-list", "rssi", rssi);
-  write_signal(object, "snr-list", "snr", snr);
-
-  cfg_set_boolean_param_opt(object, "authorized", authorized);
-  cfg_set_param_opt(object, "wireless-mode", convert_to_ipc_str(wireless_mode));
-  cfg_set_param_opt(object, "link-quality", link_quality);
-  cfg_set_param_opt(object, "link-quality-common", link_quality_common);
-
-  // A record without statistics carries nothing more: no authentication, multi-link or cipher
-  // keys. Receivers rely on this shape, so the cut-off stays.
-  if (!statistics) {
-    return;
-  }
-  lcw_data_t* const statistics_object = cfg_insert_empty_subtree_or_exists(object, "statistics");
-  if (statistics_object == nullptr) {
-    return;
-  }
-  write_statistic(statistics_object, "tx", statistics->tx);
-  write_statistic(statistics_object, "rx", statistics->rx);
-
-  cfg_set_param_opt(object, "eap-method", convert_to_ipc_str(eap_method));
-  cfg_set_param_opt(object, "mac-auth-status", convert_to_ipc_str(mac_auth_status));
-  cfg_set_param_opt(object, "portal-auth-status", convert_to_ipc_str(portal_auth_status));
-  cfg_set_param_opt(object, "wlan-auth-status", convert_to_ipc_str(wlan_auth_status));
-  cfg_set_param_opt(object, "wlan-auth-method", convert_to_ipc_str(wlan_auth_method));
-  cfg_set_param_opt(object, "auth-algorithm", convert_to_ipc_str(auth_algorithm));
-
-  cfg_set_uint32_param_opt(object, "wlan-auth-uptime", wlan_auth_uptime);
-  cfg_set_uint32_param_opt(object, "mac-auth-uptime", mac_auth_uptime);
-  cfg_set_uint32_param_opt(object, "portal-auth-uptime", portal_auth_uptime);
-
-  if (mlo) {
-    mlo->to_json(*object);
-  }
-
-  cfg_set_param_opt(object, "encryption-cipher", encryption_cipher);
-  cfg_set_param_opt(object, "encryption-group-cipher", encryption_group_cipher);
+  wlccw::detail::TreeSink sink(object);
+  wlccw::detail::write_client_ipc(sink, *this);
 }
 
 std::string APClientData::to_json_str() const {
+#if WLCCW_BUNDLED_TREE
+  wlccw::detail::JsonTextWriter text;
+  wlccw::detail::TextSink root(text);
+  wlccw::detail::write_client_ipc(root, *this);
+  return text.take();
+#else
   wlccw::cfg::Tree const root = wlccw::cfg::make_object();
   if (!root) {
     return {};
   }
   to_json(root.get());
   return wlccw::cfg::compact(root.get());
+#endif
 }
 
 APClientData APClientData::from_json(lcw_data_t* object) {

@@ -4,6 +4,7 @@
 #include <wlccw/client/radio_signal.hpp>
 
 #include "detail/Dictionary.hpp"
+#include "detail/client_ipc.hpp"
 
 #include <array>
 #include <charconv>
@@ -194,76 +195,91 @@ std::optional<Mlo> mlo_from_json(lcw_data_t const& client) {
 }
 
 /// Writes a signal list as an array of integers under key; nothing when there is no reading.
-void write_signal_list(lcw_data_t& link, char const* key, std::vector<int> const& values) {
+template <typename Sink>
+void write_signal_list(Sink& link, char const* key, std::vector<int> const& values) {
   if (values.empty()) {
     return;
   }
-  lcw_data_t* const list = cfg_insert_empty_array(&link, key);
-  if (list == nullptr) {
+  Sink list = link.array(key);
+  if (!list) {
     return;
   }
   for (int const value : values) {
-    cfg_insert_child_int(list, nullptr, value);
+    list.append_int(value);
   }
 }
 
 /// Writes one direction of a link as an object under key, with the members that are set.
-void write_statistic(lcw_data_t& link, char const* key, Statistic const& statistic) {
-  lcw_data_t* const direction = cfg_insert_empty_subtree(&link, key);
-  if (direction == nullptr) {
+template <typename Sink>
+void write_statistic(Sink& link, char const* key, Statistic const& statistic) {
+  Sink direction = link.object(key);
+  if (!direction) {
     return;
   }
-  cfg_set_param_opt(direction, "rate", statistic.rate);
+  direction.set_param_opt("rate", statistic.rate);
   if (statistic.bytes) {
-    cfg_set_int32_param(direction, "bytes", *statistic.bytes);
+    direction.set_int32("bytes", *statistic.bytes);
   }
   if (statistic.packets) {
-    cfg_set_int32_param(direction, "packets", *statistic.packets);
+    direction.set_int32("packets", *statistic.packets);
   }
 }
 
 /// Fills one element object of the IPC "links" array. Throws std::invalid_argument for a band
 /// outside the three known ones.
-void write_link(lcw_data_t& object, Link const& link) {
+template <typename Sink> void write_link(Sink& object, Link const& link) {
   char text[18];
   link.mac.format(text);
-  cfg_set_param(&object, "mac", text);
+  object.set_param("mac", text);
   std::string const band(radio::band::to_str(link.band));
-  cfg_set_param(&object, "band", band.c_str());
-  cfg_set_uint8_param(&object, "id", link.id);
-  cfg_set_param_opt(&object, "bandwidth", link.bandwidth);
+  object.set_param("band", band.c_str());
+  object.set_uint8("id", link.id);
+  object.set_param_opt("bandwidth", link.bandwidth);
   write_signal_list(object, "rssi-list", link.rssi.values);
   write_signal_list(object, "snr-list", link.snr.values);
   write_statistic(object, "tx", link.tx);
   write_statistic(object, "rx", link.rx);
 }
 
+/// Writes the IPC object "mlo" under parent (the tree form).
+void mlo_to_json(lcw_data_t& parent, Mlo const& mlo) {
+  wlccw::detail::TreeSink sink(&parent);
+  wlccw::detail::write_mlo_ipc(sink, mlo);
+}
+
+} // namespace
+
+namespace wlccw::detail {
+
 /// Writes the IPC object "mlo" under parent: the AP multi-link device address when valid, then
 /// the "links" array with one object per link.
-void mlo_to_json(lcw_data_t& parent, Mlo const& mlo) {
-  lcw_data_t* const object = cfg_insert_empty_subtree(&parent, "mlo");
-  if (object == nullptr) {
+template <typename Sink> void write_mlo_ipc(Sink& parent, Mlo const& mlo) {
+  Sink object = parent.object("mlo");
+  if (!object) {
     return;
   }
   if (mlo.mld_mac_ap.valid) {
     char text[18];
     mlo.mld_mac_ap.format(text);
-    cfg_set_param(object, "mld-mac-ap", text);
+    object.set_param("mld-mac-ap", text);
   }
-  lcw_data_t* const links = cfg_insert_empty_array(object, "links");
-  if (links == nullptr) {
+  Sink links = object.array("links");
+  if (!links) {
     return;
   }
   for (Link const& link : mlo.links) {
-    lcw_data_t* const element = cfg_insert_empty_subtree(links, nullptr);
-    if (element == nullptr) {
+    Sink element = links.append_object();
+    if (!element) {
       continue; // no room for this link: it is left out
     }
-    write_link(*element, link);
+    write_link(element, link);
   }
 }
 
-} // namespace
+template void write_mlo_ipc<TreeSink>(TreeSink&, Mlo const&);
+template void write_mlo_ipc<TextSink>(TextSink&, Mlo const&);
+
+} // namespace wlccw::detail
 
 void Mlo::to_json(lcw_data_t& parent) const {
   mlo_to_json(parent, *this);

@@ -2,7 +2,11 @@
 // list.
 #include <wlccw/client/NcIpcClientList.hpp>
 
+#include "detail/client_ipc.hpp"
+
 #include <wlccw/cfg/owned.hpp>
+
+#include <algorithm>
 
 #include <exception>
 #include <functional>
@@ -106,32 +110,53 @@ void NcIpcClientList::update_client_as_unregistered(std::string const& interface
   set_username_for_client_and_update_status(interface, mac, std::string());
 }
 
+namespace {
+
+/// Writes the list into root: an object per interface, in name order, with its SSID and its
+/// clients in address order, each under its address text.
+template <typename Sink> void write_list(Sink& root, NcIpcClientList const& list) {
+  for (auto const& [name, desc] : list.interfaces) {
+    Sink object = root.object_or_existing(name.c_str());
+    if (!object) {
+      continue;
+    }
+    object.set_param("ssid", desc.ssid.c_str());
+    Sink clients = object.object_or_existing("client");
+    if (!clients) {
+      continue;
+    }
+    for (auto const& [mac, client] : desc.clients) {
+      char key[18];
+      mac.format(key);
+      Sink client_object = clients.object_or_existing(key);
+      if (!client_object) {
+        continue;
+      }
+      wlccw::detail::write_client_ipc(client_object, client);
+    }
+  }
+}
+
+#if WLCCW_BUNDLED_TREE
+/// Whether every interface writes under a name of its own. A name holding a NUL is cut there by
+/// the tree interface, and two names cut alike share one object; only the tree can merge them.
+bool interface_names_are_distinct(NcIpcClientList const& list) {
+  return std::none_of(list.interfaces.begin(), list.interfaces.end(), [](auto const& entry) {
+    return entry.first.find('\0') != std::string::npos;
+  });
+}
+#endif
+
+} // namespace
+
 lcw_data_t* NcIpcClientList::to_ipc_json() const {
   // Owned until it is handed out, so a record writer that throws cannot leak the tree.
   wlccw::cfg::Tree root = wlccw::cfg::make_object();
   if (!root) {
     return nullptr;
   }
-  for (auto const& [name, desc] : interfaces) {
-    lcw_data_t* const object = cfg_insert_empty_subtree_or_exists(root.get(), name.c_str());
-    if (object == nullptr) {
-      continue;
-    }
-    cfg_set_param(object, "ssid", desc.ssid.c_str());
-    lcw_data_t* const clients = cfg_insert_empty_subtree_or_exists(object, "client");
-    if (clients == nullptr) {
-      continue;
-    }
-    for (auto const& [mac, client] : desc.clients) {
-      char key[18];
-      mac.format(key);
-      lcw_data_t* const client_object = cfg_insert_empty_subtree_or_exists(clients, key);
-      if (client_object == nullptr) {
-        continue;
-      }
-      client.to_json(client_object);
-    }
-  }
+  wlccw::detail::TreeSink sink(root.get());
+  write_list(sink, *this);
   return root.release();
 }
 
@@ -167,6 +192,15 @@ NcIpcClientList NcIpcClientList::from_ipc_json(lcw_data_t* root) {
 }
 
 std::string NcIpcClientList::to_str() const {
+#if WLCCW_BUNDLED_TREE
+  // The text the bundled backend would serialise from to_ipc_json, written without the tree.
+  if (interface_names_are_distinct(*this)) {
+    wlccw::detail::JsonTextWriter text;
+    wlccw::detail::TextSink root(text);
+    write_list(root, *this);
+    return text.take();
+  }
+#endif
   wlccw::cfg::Tree const root(to_ipc_json());
   if (!root) {
     return {};

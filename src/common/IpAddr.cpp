@@ -46,11 +46,24 @@ void parse(char const* text, IpAddr& ip) noexcept {
   ip.valid = true;
 }
 
-/// Writes "%u.%u.%u.%u" of the octets into out; returns the length written.
-std::size_t format(std::array<std::uint8_t, 4> const& octets, char (&out)[64]) noexcept {
-  int const n = std::snprintf(out, sizeof out, "%u.%u.%u.%u", unsigned{octets[0]},
-                              unsigned{octets[1]}, unsigned{octets[2]}, unsigned{octets[3]});
-  return n > 0 ? static_cast<std::size_t>(n) : 0U;
+/// Writes the octets as "%u.%u.%u.%u" would, decimal numbers joined by dots, into out (at least
+/// 15 characters); returns the length written. No terminating NUL.
+std::size_t write_text(std::array<std::uint8_t, 4> const& octets, char* out) noexcept {
+  char* o = out;
+  for (std::size_t i = 0; i < octets.size(); ++i) {
+    if (i != 0) {
+      *o++ = '.';
+    }
+    unsigned const v = octets[i];
+    if (v >= 100) {
+      *o++ = static_cast<char>('0' + v / 100);
+    }
+    if (v >= 10) {
+      *o++ = static_cast<char>('0' + v / 10 % 10);
+    }
+    *o++ = static_cast<char>('0' + v % 10);
+  }
+  return static_cast<std::size_t>(o - out);
 }
 
 } // namespace
@@ -62,13 +75,17 @@ IpAddr& IpAddr::operator=(char const* text) noexcept {
 }
 
 std::string IpAddr::str() const {
-  char text[64];
-  return std::string(text, format(octets, text));
+  char text[16];
+  return std::string(text, write_text(octets, text));
+}
+
+void IpAddr::format(char (&out)[16]) const noexcept {
+  out[write_text(octets, out)] = '\0';
 }
 
 void tag_invoke(boost::json::value_from_tag, boost::json::value& jv, IpAddr const& ip) {
-  char text[64];
-  std::size_t const length = format(ip.octets, text);
+  char text[16];
+  std::size_t const length = write_text(ip.octets, text);
   jv.emplace_string().assign(text, length);
 }
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <cstdio>
 #include <optional>
 #include <string>
 #include <vector>
@@ -232,6 +233,78 @@ TEST(CfgSerialize, EveryControlCharacterIsEscapedAndReadsBack) {
     ASSERT_TRUE(back) << "control " << c << ": " << text;
     EXPECT_EQ(cfg_get_param_opt(back.get(), "s"), value) << "control " << c;
   }
+}
+
+// The JSON string of a text, escaped byte by byte: the quote, the backslash and the control
+// characters, the last with their short escapes where JSON has one.
+std::string escaped_byte_by_byte(std::string const& value) {
+  std::string out = "\"";
+  for (char const ch : value) {
+    auto const byte = static_cast<unsigned char>(ch);
+    switch (ch) {
+    case '"':
+      out += "\\\"";
+      break;
+    case '\\':
+      out += "\\\\";
+      break;
+    case '\b':
+      out += "\\b";
+      break;
+    case '\f':
+      out += "\\f";
+      break;
+    case '\n':
+      out += "\\n";
+      break;
+    case '\r':
+      out += "\\r";
+      break;
+    case '\t':
+      out += "\\t";
+      break;
+    default:
+      if (byte < 0x20) {
+        char buf[8];
+        std::snprintf(buf, sizeof buf, "\\u%04x", byte);
+        out += buf;
+      } else {
+        out += ch;
+      }
+    }
+  }
+  return out + "\"";
+}
+
+// The writer copies runs of plain bytes eight at a time; a byte to escape has to be found at
+// every position of a block and across block ends.
+TEST(CfgSerialize, EscapesAreFoundAtEveryPositionOfLongerTexts) {
+  std::string const specials{'\x01', '\x1f', '"', '\\', '\n', ' ', '\x7f', '\x80', '\xff', '!'};
+  for (std::size_t length = 1; length <= 26; ++length) {
+    for (std::size_t at = 0; at < length; ++at) {
+      for (char const special : specials) {
+        std::string value(length, 'a');
+        value[at] = special;
+        EXPECT_EQ(written_string(value), "{\"s\":" + escaped_byte_by_byte(value) + "}")
+            << "length " << length << ", byte " << static_cast<int>(special) << " at " << at;
+      }
+    }
+  }
+}
+
+TEST(CfgSerialize, LongTextsOfEveryByteAreEscapedByteByByte) {
+  std::string every;
+  for (int round = 0; round < 3; ++round) {
+    for (int c = 1; c < 256; ++c) {
+      every += static_cast<char>((c * 37 + round) % 255 + 1);
+    }
+  }
+  EXPECT_EQ(written_string(every), "{\"s\":" + escaped_byte_by_byte(every) + "}");
+  std::string const plain(10000, 'x');
+  std::string const one_at_end = plain + "\"";
+  EXPECT_EQ(written_string(one_at_end), "{\"s\":" + escaped_byte_by_byte(one_at_end) + "}");
+  std::string const all_escaped(5000, '\x01');
+  EXPECT_EQ(written_string(all_escaped), "{\"s\":" + escaped_byte_by_byte(all_escaped) + "}");
 }
 
 TEST(CfgSerialize, DeleteAndHighBytesAreWrittenRaw) {

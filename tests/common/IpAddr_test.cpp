@@ -79,6 +79,32 @@ TEST(IpAddr, DefaultValuePrintsAllZero) {
   EXPECT_EQ(IpAddr{}.str(), "0.0.0.0");
 }
 
+// The text form is "%u.%u.%u.%u" of the octets; str() and format() write it for every value an
+// octet can take, at every place.
+TEST(IpAddr, TextFormIsTheDecimalOctetsJoinedByDots) {
+  for (unsigned value = 0; value <= 255; ++value) {
+    for (std::size_t place = 0; place < 4; ++place) {
+      IpAddr ip;
+      ip.octets = {1, 22, 133, 4};
+      ip.octets[place] = static_cast<std::uint8_t>(value);
+      char expected[64];
+      std::snprintf(expected, sizeof expected, "%u.%u.%u.%u", unsigned{ip.octets[0]},
+                    unsigned{ip.octets[1]}, unsigned{ip.octets[2]}, unsigned{ip.octets[3]});
+      EXPECT_EQ(ip.str(), expected);
+      char formatted[16];
+      ip.format(formatted);
+      EXPECT_STREQ(formatted, expected);
+    }
+  }
+  IpAddr widest;
+  widest.octets = {255, 255, 255, 255};
+  char formatted[16];
+  widest.format(formatted);
+  EXPECT_STREQ(formatted, "255.255.255.255");
+  IpAddr{}.format(formatted);
+  EXPECT_STREQ(formatted, "0.0.0.0");
+}
+
 TEST(IpAddr, EqualityComparesBothFields) {
   EXPECT_EQ(parsed("10.1.2.3"), parsed("10.1.2.3"));
   EXPECT_NE(parsed("10.1.2.3"), parsed("10.1.2.4"));

@@ -684,3 +684,51 @@ TEST(ClientRoundTrip, ApsWithClients) {
 }
 
 } // namespace
+
+// ---- Texts written without a tree ------------------------------------------------------------
+
+// The client record and the client list write their texts straight away; the text has to be the
+// one the tree of their IPC form serialises to.
+
+std::string tree_text(APClientData const& client) {
+  wlccw::cfg::Tree const root = wlccw::cfg::make_object();
+  client.to_json(root.get());
+  return wlccw::cfg::compact(root.get());
+}
+
+std::string tree_text(NcIpcClientList const& list) {
+  wlccw::cfg::Tree const root(list.to_ipc_json());
+  return wlccw::cfg::compact(root.get());
+}
+
+TEST(ClientTexts, ClientRecordTextIsItsTreesText) {
+  for_each_seed([](Random& random) {
+    APClientData const client = make_client(random);
+    EXPECT_EQ(client.to_json_str(), tree_text(client));
+  });
+}
+
+TEST(ClientTexts, ClientListTextIsItsTreesText) {
+  for_each_seed([](Random& random) {
+    NcIpcClientList const list = make_list(random);
+    EXPECT_EQ(list.to_str(), tree_text(list));
+    EXPECT_EQ(list.get_hash(), std::hash<std::string>{}(tree_text(list)));
+  });
+}
+
+// Interface names that hold a NUL become one key of the IPC form, cut at the NUL; the tree merges
+// them into one object, and the text is still the tree's.
+TEST(ClientTexts, InterfaceNamesCutAlikeAtANulShareOneObject) {
+  NcIpcClientList list;
+  list.add_or_update(
+      APClientData(MacAddr::from_str("00:00:00:00:00:01"), std::string("wlan0\0a", 7), "first"));
+  list.add_or_update(
+      APClientData(MacAddr::from_str("00:00:00:00:00:02"), std::string("wlan0\0b", 7), "second"));
+  std::string const text = list.to_str();
+  EXPECT_EQ(text, tree_text(list));
+  EXPECT_EQ(text, "{\"wlan0\":{\"ssid\":\"second\",\"client\":{"
+                  "\"00:00:00:00:00:01\":{\"mac\":\"00:00:00:00:00:01\",\"interface\":\"wlan0\","
+                  "\"ssid\":\"first\"},"
+                  "\"00:00:00:00:00:02\":{\"mac\":\"00:00:00:00:00:02\",\"interface\":\"wlan0\","
+                  "\"ssid\":\"second\"}}}}");
+}

@@ -30,6 +30,8 @@ public:
 
   /// The four octets as "%u.%u.%u.%u", whatever `valid` says.
   std::string str() const;
+  /// The text of str(), NUL-terminated, into a caller's buffer: no allocation.
+  void format(char (&out)[16]) const noexcept;
 
   friend bool operator==(IpAddr const&, IpAddr const&) = default;
 };

@@ -1,0 +1,186 @@
+// The poll of one AP with N clients, side by side with what a team would otherwise use, all on the
+// same generated reply text:
+// - Poll: the library's poll (reply text -> APClientData::from_netconf_json for each client ->
+//   NcIpcClientList -> to_str + get_hash), and its three stages alone;
+// - Floor: Boost.JSON parse into a monotonic resource and compact serialise of the reply text,
+//   what any conversion through a JSON tree has to pay at least;
+// - Limit: simdjson's DOM parse of the reply text, what parsing alone costs at best;
+// - Peer: the same import and IPC list write done directly on nlohmann::json;
+// - Receive: the receiving daemon's side, the list's IPC text -> NcIpcClientList::from_ipc_json,
+//   beside the floor of that text.
+// Each run reports the time per client (items) and bytes of reply per second; the library's poll
+// also reports its heap peak above the program's baseline, as a multiple of the reply's size.
+#include "nlohmann_peer.hpp"
+#include "poll.hpp"
+#include "support/heap_counter.hpp"
+#include "workload.hpp"
+
+#include <wlccw/wlccw.hpp>
+
+#include <benchmark/benchmark.h>
+#include <boost/json.hpp>
+#include <simdjson.h>
+
+#include <cstdint>
+#include <map>
+#include <string>
+
+namespace {
+
+constexpr std::uint64_t seed = 20261121;
+
+/// The reply of n clients, generated once per program.
+std::string const& reply(std::size_t n) {
+  static std::map<std::size_t, std::string> replies;
+  auto [it, added] = replies.try_emplace(n);
+  if (added) {
+    it->second = wlccw::workload::client_reply(n, seed);
+  }
+  return it->second;
+}
+
+std::size_t clients(benchmark::State const& state) {
+  return static_cast<std::size_t>(state.range(0));
+}
+
+void per_client(benchmark::State& state, std::string const& text) {
+  state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * state.range(0));
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
+                          static_cast<std::int64_t>(text.size()));
+}
+
+void BM_Poll(benchmark::State& state) {
+  std::string const& text = reply(clients(state));
+  // The heap the poll needs at its peak, measured on one poll before the timed ones.
+  wlccw::bench::reset_heap_peak();
+  std::size_t const baseline = wlccw::bench::heap_counts().live_bytes;
+  std::size_t const allocations_before = wlccw::bench::heap_counts().allocations;
+  {
+    wlccw::workload::PollResult const once = wlccw::workload::library_poll(text);
+    benchmark::DoNotOptimize(&once);
+    if (once.clients != clients(state)) {
+      state.SkipWithError("the poll lost clients of the generated reply");
+      return;
+    }
+  }
+  auto const counts = wlccw::bench::heap_counts();
+  state.counters["peak_heap/reply"] =
+      static_cast<double>(counts.peak_bytes - baseline) / static_cast<double>(text.size());
+  state.counters["allocs/client"] = static_cast<double>(counts.allocations - allocations_before) /
+                                    static_cast<double>(clients(state));
+  for (auto _ : state) {
+    wlccw::workload::PollResult result = wlccw::workload::library_poll(text);
+    benchmark::DoNotOptimize(&result);
+  }
+  per_client(state, text);
+}
+
+void BM_PollParse(benchmark::State& state) {
+  std::string const& text = reply(clients(state));
+  for (auto _ : state) {
+    wlccw::cfg::Tree root = wlccw::cfg::parse(text);
+    benchmark::DoNotOptimize(root.get());
+  }
+  per_client(state, text);
+}
+
+void BM_PollImport(benchmark::State& state) {
+  std::string const& text = reply(clients(state));
+  wlccw::cfg::Tree const root = wlccw::cfg::parse(text);
+  lcw_data_t* const array =
+      cfg_get_subtree_from_path(root.get(), wlccw::workload::client_array_path);
+  for (auto _ : state) {
+    NcIpcClientList list;
+    wlccw::cfg::for_each_element(array, [&list](lcw_data_t& client) {
+      list.add_or_update(APClientData::from_netconf_json(&client));
+    });
+    benchmark::DoNotOptimize(&list);
+  }
+  per_client(state, text);
+}
+
+void BM_PollWrite(benchmark::State& state) {
+  std::string const& text = reply(clients(state));
+  NcIpcClientList const list = wlccw::workload::import_clients(text);
+  for (auto _ : state) {
+    std::string ipc = list.to_str();
+    std::size_t hash = list.get_hash();
+    benchmark::DoNotOptimize(ipc.data());
+    benchmark::DoNotOptimize(hash);
+  }
+  per_client(state, text);
+}
+
+void BM_Floor_BoostParseSerialize(benchmark::State& state) {
+  std::string const& text = reply(clients(state));
+  for (auto _ : state) {
+    boost::json::monotonic_resource resource;
+    boost::json::value const value = boost::json::parse(text, &resource);
+    std::string out = boost::json::serialize(value);
+    benchmark::DoNotOptimize(out.data());
+  }
+  per_client(state, text);
+}
+
+void BM_Limit_SimdjsonDomParse(benchmark::State& state) {
+  std::string const& text = reply(clients(state));
+  simdjson::padded_string const padded(text);
+  simdjson::dom::parser parser;
+  for (auto _ : state) {
+    simdjson::dom::element root;
+    if (parser.parse(padded).get(root) != simdjson::SUCCESS) {
+      state.SkipWithError("simdjson refused the reply");
+      return;
+    }
+    benchmark::DoNotOptimize(&root);
+  }
+  per_client(state, text);
+}
+
+void BM_Peer_Nlohmann(benchmark::State& state) {
+  std::string const& text = reply(clients(state));
+  for (auto _ : state) {
+    wlccw::peer::PollResult result = wlccw::peer::poll(text);
+    benchmark::DoNotOptimize(&result);
+  }
+  per_client(state, text);
+}
+
+void BM_Receive(benchmark::State& state) {
+  std::string const ipc = wlccw::workload::library_poll(reply(clients(state))).ipc_text;
+  for (auto _ : state) {
+    wlccw::cfg::Tree const root = wlccw::cfg::parse(ipc);
+    NcIpcClientList list = NcIpcClientList::from_ipc_json(root.get());
+    benchmark::DoNotOptimize(&list);
+  }
+  per_client(state, ipc);
+}
+
+void BM_ReceiveFloor_BoostParseSerialize(benchmark::State& state) {
+  std::string const ipc = wlccw::workload::library_poll(reply(clients(state))).ipc_text;
+  for (auto _ : state) {
+    boost::json::monotonic_resource resource;
+    boost::json::value const value = boost::json::parse(ipc, &resource);
+    std::string out = boost::json::serialize(value);
+    benchmark::DoNotOptimize(out.data());
+  }
+  per_client(state, ipc);
+}
+
+void sizes(benchmark::internal::Benchmark* b) {
+  for (long n : {16, 64, 256, 1024, 4096}) {
+    b->Arg(n);
+  }
+}
+
+} // namespace
+
+BENCHMARK(BM_Poll)->Apply(sizes);
+BENCHMARK(BM_Floor_BoostParseSerialize)->Apply(sizes);
+BENCHMARK(BM_Limit_SimdjsonDomParse)->Apply(sizes);
+BENCHMARK(BM_Peer_Nlohmann)->Apply(sizes);
+BENCHMARK(BM_PollParse)->Apply(sizes);
+BENCHMARK(BM_PollImport)->Apply(sizes);
+BENCHMARK(BM_PollWrite)->Apply(sizes);
+BENCHMARK(BM_Receive)->Apply(sizes);
+BENCHMARK(BM_ReceiveFloor_BoostParseSerialize)->Apply(sizes);

@@ -1,0 +1,25 @@
+// Counting the heap of a benchmark program: the program's own malloc family (in heap_counter.cpp)
+// forwards to the C library's allocator and keeps the bytes in use, their peak and the number of
+// allocations. Every allocation of the process goes through it, the library's included, since a
+// program's malloc takes the place of the C library's for every shared object it loads.
+#pragma once
+
+#include <cstddef>
+
+namespace wlccw::bench {
+
+struct HeapCounts {
+  /// Usable bytes of the blocks allocated and not yet freed.
+  std::size_t live_bytes = 0;
+  /// The highest live_bytes since the last reset_heap_peak.
+  std::size_t peak_bytes = 0;
+  /// Allocations made since the program started (reallocations count as one).
+  std::size_t allocations = 0;
+};
+
+HeapCounts heap_counts() noexcept;
+
+/// Starts a new peak from the bytes in use now.
+void reset_heap_peak() noexcept;
+
+} // namespace wlccw::bench
