@@ -36,14 +36,21 @@ consumer: build
 
 test: test-release test-asan test-tsan test-fuzz consumer format-check
 
+# Release benchmarks. The poll runs three times; its report and the chart of time per client
+# against N land in build/bench/ (poll.json, poll-per-client.svg) with the ratio tables printed.
+BENCH := build/bench/bench
 bench: deps
 	cmake --preset bench
 	cmake --build --preset bench
-	build/bench/bench/wlccw_bench_tree
-	build/bench/bench/wlccw_bench_enums
-	build/bench/bench/wlccw_bench_client
-	build/bench/bench/wlccw_bench_monitoring
-	build/bench/bench/wlccw_bench_hostile
+	$(BENCH)/wlccw_bench_poll --benchmark_repetitions=3 --benchmark_report_aggregates_only=true \
+	  --benchmark_out=build/bench/poll.json --benchmark_out_format=json
+	scripts/plot-poll build/bench/poll.json build/bench/poll-per-client.svg
+	$(BENCH)/wlccw_bench_monitoring
+	$(BENCH)/wlccw_bench_primitives
+	$(BENCH)/wlccw_bench_enums
+	$(BENCH)/wlccw_bench_client
+	$(BENCH)/wlccw_bench_tree
+	$(BENCH)/wlccw_bench_hostile
 
 FUZZ_SECONDS ?= 60
 

@@ -1,10 +1,14 @@
-// Cost of one AP monitoring poll on the controller's side: the sample NETCONF monitoring reply
-// turned into the IPC texts of all five monitoring records, beside the JSON floor of the same bytes
-// (Boost.JSON parse into a monotonic resource and compact serialise).
+// Cost of one AP monitoring poll on the controller's side: a NETCONF monitoring reply (the sample,
+// and a generated reply of a busy AP) turned into the IPC texts of all five monitoring records,
+// beside the JSON floor of the same bytes (Boost.JSON parse into a monotonic resource and compact
+// serialise) and simdjson's DOM parse of them.
 #include <wlccw/wlccw.hpp>
 
 #include <benchmark/benchmark.h>
 #include <boost/json.hpp>
+#include <simdjson.h>
+
+#include "workload.hpp"
 
 #include <cstdlib>
 #include <fstream>
@@ -115,8 +119,54 @@ void BM_BoostParseSerializeReply(benchmark::State& state) {
                           static_cast<std::int64_t>(text.size()));
 }
 
+/// A busy AP's reply: four radios, twelve interfaces, four ports and 200 neighbours.
+std::string const& generated_reply() {
+  static std::string const text = wlccw::workload::monitoring_reply({4, 12, 4, 200}, 20261121);
+  return text;
+}
+
+void BM_GeneratedReplyToFiveIpcTexts(benchmark::State& state) {
+  std::string const& text = generated_reply();
+  for (auto _ : state) {
+    PollTexts texts = convert(text);
+    benchmark::DoNotOptimize(&texts);
+  }
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
+                          static_cast<std::int64_t>(text.size()));
+}
+
+void BM_GeneratedReplyFloor_BoostParseSerialize(benchmark::State& state) {
+  std::string const& text = generated_reply();
+  for (auto _ : state) {
+    boost::json::monotonic_resource mr;
+    boost::json::value const v = boost::json::parse(text, &mr);
+    std::string out = boost::json::serialize(v);
+    benchmark::DoNotOptimize(out.data());
+  }
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
+                          static_cast<std::int64_t>(text.size()));
+}
+
+void BM_GeneratedReplyLimit_SimdjsonDomParse(benchmark::State& state) {
+  simdjson::padded_string const padded(generated_reply());
+  simdjson::dom::parser parser;
+  for (auto _ : state) {
+    simdjson::dom::element root;
+    if (parser.parse(padded).get(root) != simdjson::SUCCESS) {
+      state.SkipWithError("simdjson refused the reply");
+      return;
+    }
+    benchmark::DoNotOptimize(&root);
+  }
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
+                          static_cast<std::int64_t>(padded.size()));
+}
+
 } // namespace
 
+BENCHMARK(BM_GeneratedReplyToFiveIpcTexts);
+BENCHMARK(BM_GeneratedReplyFloor_BoostParseSerialize);
+BENCHMARK(BM_GeneratedReplyLimit_SimdjsonDomParse);
 BENCHMARK(BM_ReplyToFiveIpcTexts);
 BENCHMARK(BM_InformationFromReply);
 BENCHMARK(BM_RadiosFromReply);

@@ -28,7 +28,7 @@ using Metrics = AntennaSignalMetrics<std::greater<int>, std::less<int>>;
 /// Writes a signal metric as the list of its readings under list_key and its representative value
 /// under value_key; nothing at all when there is no reading (a reported value alone is not sent).
 template <typename Sink>
-void write_signal(Sink& object, char const* list_key, char const* value_key,
+void write_signal(Sink& object, wlccw::detail::Key list_key, wlccw::detail::Key value_key,
                   Metrics const& metrics) {
   if (metrics.values.empty()) {
     return;
@@ -44,7 +44,7 @@ void write_signal(Sink& object, char const* list_key, char const* value_key,
 /// Writes one direction of the traffic counters into the object key of statistics (reused if it is
 /// there); skipped when that object cannot be made.
 template <typename Sink>
-void write_statistic(Sink& statistics, char const* key, Statistic const& statistic) {
+void write_statistic(Sink& statistics, wlccw::detail::Key key, Statistic const& statistic) {
   Sink direction = statistics.object_or_existing(key);
   if (!direction) {
     return;

@@ -15,10 +15,59 @@ namespace {
 
 using namespace std::string_view_literals;
 
+/// Reads a run of one to nine decimal digits at p (none of the signs or white space sscanf's %u
+/// would also take); false when p holds no such run.
+bool read_digits(char const*& p, unsigned int& value) noexcept {
+  char const* const start = p;
+  unsigned int v = 0;
+  for (; *p >= '0' && *p <= '9'; ++p) {
+    if (p - start == 9) {
+      return false;
+    }
+    v = v * 10U + static_cast<unsigned int>(*p - '0');
+  }
+  value = v;
+  return p != start;
+}
+
+/// The two shapes an AP writes, "H:M:S" and "D d H:M:S", read by hand when every number is plain
+/// digits: for such a text the numbers are the ones the sscanf formats below read. Any other text
+/// is left to those formats.
+bool read_plain_uptime(char const* text, std::optional<std::uint32_t>& uptime) noexcept {
+  char const* p = text;
+  unsigned int first = 0;
+  unsigned int hours = 0;
+  unsigned int minutes = 0;
+  unsigned int seconds = 0;
+  if (!read_digits(p, first)) {
+    return false;
+  }
+  if (*p == ':') {
+    ++p;
+    if (read_digits(p, minutes) && *p == ':' && read_digits(++p, seconds)) {
+      uptime = static_cast<std::uint32_t>(first * 3600U + minutes * 60U + seconds);
+      return true;
+    }
+    return false;
+  }
+  if (p[0] == ' ' && p[1] == 'd' && p[2] == ' ') {
+    p += 3;
+    if (read_digits(p, hours) && *p == ':' && read_digits(++p, minutes) && *p == ':' &&
+        read_digits(++p, seconds)) {
+      uptime = static_cast<std::uint32_t>(first * 86400U + hours * 3600U + minutes * 60U + seconds);
+      return true;
+    }
+  }
+  return false;
+}
+
 /// Seconds of an AP's uptime text: "H:M:S", or "D d H:M:S" (each number as sscanf's %u reads it,
 /// text after the last number ignored); empty for anything else. The arithmetic wraps as unsigned
 /// 32-bit, as the AP's own counters do.
 std::optional<std::uint32_t> uptime_from_netconf(char const* text) {
+  if (std::optional<std::uint32_t> uptime; read_plain_uptime(text, uptime)) {
+    return uptime;
+  }
   unsigned int hours = 0;
   unsigned int minutes = 0;
   unsigned int seconds = 0;

@@ -196,7 +196,7 @@ std::optional<Mlo> mlo_from_json(lcw_data_t const& client) {
 
 /// Writes a signal list as an array of integers under key; nothing when there is no reading.
 template <typename Sink>
-void write_signal_list(Sink& link, char const* key, std::vector<int> const& values) {
+void write_signal_list(Sink& link, wlccw::detail::Key key, std::vector<int> const& values) {
   if (values.empty()) {
     return;
   }
@@ -211,7 +211,7 @@ void write_signal_list(Sink& link, char const* key, std::vector<int> const& valu
 
 /// Writes one direction of a link as an object under key, with the members that are set.
 template <typename Sink>
-void write_statistic(Sink& link, char const* key, Statistic const& statistic) {
+void write_statistic(Sink& link, wlccw::detail::Key key, Statistic const& statistic) {
   Sink direction = link.object(key);
   if (!direction) {
     return;

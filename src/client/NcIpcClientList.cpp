@@ -116,7 +116,7 @@ namespace {
 /// clients in address order, each under its address text.
 template <typename Sink> void write_list(Sink& root, NcIpcClientList const& list) {
   for (auto const& [name, desc] : list.interfaces) {
-    Sink object = root.object_or_existing(name.c_str());
+    Sink object = root.object_or_existing(wlccw::detail::Key::text(name.c_str()));
     if (!object) {
       continue;
     }
@@ -128,7 +128,7 @@ template <typename Sink> void write_list(Sink& root, NcIpcClientList const& list
     for (auto const& [mac, client] : desc.clients) {
       char key[18];
       mac.format(key);
-      Sink client_object = clients.object_or_existing(key);
+      Sink client_object = clients.object_or_existing(wlccw::detail::Key::text(key));
       if (!client_object) {
         continue;
       }
@@ -195,7 +195,8 @@ std::string NcIpcClientList::to_str() const {
 #if WLCCW_BUNDLED_TREE
   // The text the bundled backend would serialise from to_ipc_json, written without the tree.
   if (interface_names_are_distinct(*this)) {
-    wlccw::detail::JsonTextWriter text;
+    // A client's IPC object takes about a kilobyte.
+    wlccw::detail::JsonTextWriter text(1024 + std::size_t{clients_count} * 1280);
     wlccw::detail::TextSink root(text);
     write_list(root, *this);
     return text.take();

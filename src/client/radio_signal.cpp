@@ -20,6 +20,9 @@ std::vector<int> parse_numbered_parameters_from_netconf(lcw_data_t const* node, 
     if (member == nullptr) {
       break; // a gap ends the numbered readings
     }
+    if (values.empty()) {
+      values.reserve(8); // one allocation for every antenna an AP can report
+    }
     values.push_back(cfg_object_to_int_opt(member).value_or(0));
   }
   if (values.empty()) {

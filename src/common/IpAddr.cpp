@@ -10,6 +10,31 @@ namespace {
 
 constexpr std::size_t kMaxLength = 15; // "255.255.255.255"
 
+/// The common case read by hand: the whole text is four decimal numbers of one to three digits
+/// joined by dots, none but a lone 0 starting with 0 (which "%hi" would read as octal). For such a
+/// text the numbers are those "%hi.%hi.%hi.%hi" reads; any other text is left to that format.
+bool read_plain_dotted(char const* text, short (&numbers)[4]) noexcept {
+  char const* p = text;
+  for (std::size_t i = 0; i < 4; ++i) {
+    if (i != 0 && *p++ != '.') {
+      return false;
+    }
+    if (*p < '0' || *p > '9' || (*p == '0' && p[1] >= '0' && p[1] <= '9')) {
+      return false;
+    }
+    short value = 0;
+    std::size_t digits = 0;
+    for (; *p >= '0' && *p <= '9'; ++p, ++digits) {
+      if (digits == 3) {
+        return false;
+      }
+      value = static_cast<short>(value * 10 + (*p - '0'));
+    }
+    numbers[i] = value;
+  }
+  return *p == '\0';
+}
+
 /// Parses text into ip, which holds the default value; leaves it untouched when the text is
 /// refused.
 void parse(char const* text, IpAddr& ip) noexcept {
@@ -31,8 +56,9 @@ void parse(char const* text, IpAddr& ip) noexcept {
     return;
   }
   short numbers[4] = {};
-  if (std::sscanf(text, "%hi.%hi.%hi.%hi", &numbers[0], &numbers[1], &numbers[2], &numbers[3]) !=
-      4) {
+  if (!read_plain_dotted(text, numbers) &&
+      std::sscanf(text, "%hi.%hi.%hi.%hi", &numbers[0], &numbers[1], &numbers[2], &numbers[3]) !=
+          4) {
     return;
   }
   for (short const n : numbers) {

@@ -2,6 +2,8 @@
 
 #include "detail/hex.hpp"
 
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace wlccw::detail {
@@ -18,7 +20,15 @@ std::string decode_html_bytes(std::string_view text) {
   std::size_t const size = text.size();
   std::size_t i = 0;
   while (i < size) {
-    if (size - i >= 5 && text[i] == '&' && text[i + 1] == '#' && text[i + 2] == 'x') {
+    // Everything up to the next "&" is copied as it stands.
+    std::size_t const amp = text.find('&', i);
+    if (amp == std::string_view::npos) {
+      out.append(text.substr(i));
+      break;
+    }
+    out.append(text.substr(i, amp - i));
+    i = amp;
+    if (size - i >= 5 && text[i + 1] == '#' && text[i + 2] == 'x') {
       int value = 0;
       std::size_t digits_end = i + 3;
       while (digits_end < i + 5) {

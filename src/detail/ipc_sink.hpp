@@ -21,13 +21,46 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
+#include <new>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace wlccw::detail {
+
+/// A member name as the writers give it: a literal, measured and checked for characters to escape
+/// at compile time, or a text known only at run time (Key::text).
+class Key {
+public:
+  template <std::size_t N>
+  consteval Key(char const (&literal)[N]) // implicit: the writers pass literals
+      : text_(literal), size_(N - 1), plain_(true) {
+    for (std::size_t i = 0; i + 1 < N; ++i) {
+      if (json_escape_table[static_cast<unsigned char>(literal[i])] != 0 || literal[i] == '\0') {
+        plain_ = false;
+      }
+    }
+  }
+
+  /// A NUL-terminated name known at run time.
+  static Key text(char const* name) noexcept { return Key(name, std::strlen(name), false); }
+
+  char const* c_str() const noexcept { return text_; }
+  std::size_t size() const noexcept { return size_; }
+  /// True when the name is written as it is, without escapes.
+  bool plain() const noexcept { return plain_; }
+
+private:
+  Key(char const* name, std::size_t size, bool plain) noexcept
+      : text_(name), size_(size), plain_(plain) {}
+
+  char const* text_;
+  std::size_t size_;
+  bool plain_;
+};
 
 class TreeSink {
 public:
@@ -37,27 +70,27 @@ public:
   explicit operator bool() const noexcept { return node_ != nullptr; }
   lcw_data_t* node() const noexcept { return node_; }
 
-  void set_param(char const* key, char const* value) { cfg_set_param(node_, key, value); }
-  void set_param_opt(char const* key, std::optional<std::string> const& value) {
-    cfg_set_param_opt(node_, key, value);
+  void set_param(Key key, char const* value) { cfg_set_param(node_, key.c_str(), value); }
+  void set_param_opt(Key key, std::optional<std::string> const& value) {
+    cfg_set_param_opt(node_, key.c_str(), value);
   }
-  void set_boolean_opt(char const* key, std::optional<bool> const& value) {
-    cfg_set_boolean_param_opt(node_, key, value);
+  void set_boolean_opt(Key key, std::optional<bool> const& value) {
+    cfg_set_boolean_param_opt(node_, key.c_str(), value);
   }
-  void set_int(char const* key, int value) { cfg_set_int_param(node_, key, value); }
-  void set_int32(char const* key, std::int32_t value) { cfg_set_int32_param(node_, key, value); }
-  void set_uint8(char const* key, std::uint8_t value) { cfg_set_uint8_param(node_, key, value); }
-  void set_uint32_opt(char const* key, std::optional<unsigned int> const& value) {
-    cfg_set_uint32_param_opt(node_, key, value);
+  void set_int(Key key, int value) { cfg_set_int_param(node_, key.c_str(), value); }
+  void set_int32(Key key, std::int32_t value) { cfg_set_int32_param(node_, key.c_str(), value); }
+  void set_uint8(Key key, std::uint8_t value) { cfg_set_uint8_param(node_, key.c_str(), value); }
+  void set_uint32_opt(Key key, std::optional<unsigned int> const& value) {
+    cfg_set_uint32_param_opt(node_, key.c_str(), value);
   }
 
-  TreeSink object(char const* key) { return TreeSink(cfg_insert_empty_subtree(node_, key)); }
-  TreeSink object_or_existing(char const* key) {
-    return TreeSink(cfg_insert_empty_subtree_or_exists(node_, key));
+  TreeSink object(Key key) { return TreeSink(cfg_insert_empty_subtree(node_, key.c_str())); }
+  TreeSink object_or_existing(Key key) {
+    return TreeSink(cfg_insert_empty_subtree_or_exists(node_, key.c_str()));
   }
-  TreeSink array(char const* key) { return TreeSink(cfg_insert_empty_array(node_, key)); }
-  TreeSink array_or_existing(char const* key) {
-    return TreeSink(cfg_insert_empty_array_or_exists(node_, key));
+  TreeSink array(Key key) { return TreeSink(cfg_insert_empty_array(node_, key.c_str())); }
+  TreeSink array_or_existing(Key key) {
+    return TreeSink(cfg_insert_empty_array_or_exists(node_, key.c_str()));
   }
 
   /// Array elements.
@@ -72,13 +105,17 @@ private:
 /// depth; containers opened deeper by sinks of members written before are closed first.
 class JsonTextWriter {
 public:
-  JsonTextWriter() { out_.resize(1024); }
+  /// expected_size: about how long the text will be, so that the buffer seldom has to grow.
+  explicit JsonTextWriter(std::size_t expected_size = 1024) { grow(expected_size); }
+  JsonTextWriter(JsonTextWriter const&) = delete;
+  JsonTextWriter& operator=(JsonTextWriter const&) = delete;
+  ~JsonTextWriter() { std::free(data_); }
 
   char* room(std::size_t n) {
-    if (out_.size() - pos_ < n) {
-      out_.resize(std::max(out_.size() * 2, pos_ + n));
+    if (capacity_ - pos_ < n) {
+      grow(std::max(capacity_ * 2, pos_ + n));
     }
-    return out_.data() + pos_;
+    return data_ + pos_;
   }
   void advance(std::size_t n) noexcept { pos_ += n; }
   void put(char ch) {
@@ -109,9 +146,7 @@ public:
   /// The whole text, every container closed.
   std::string take() {
     close_to(0);
-    out_.resize(pos_);
-    pos_ = 0;
-    return std::move(out_);
+    return std::string(data_, pos_);
   }
 
 private:
@@ -119,7 +154,19 @@ private:
     char close;
     bool empty;
   };
-  std::string out_;
+
+  // The buffer grows without being cleared: every byte is written before it is read.
+  void grow(std::size_t capacity) {
+    void* const moved = std::realloc(data_, capacity);
+    if (moved == nullptr) {
+      throw std::bad_alloc();
+    }
+    data_ = static_cast<char*>(moved);
+    capacity_ = capacity;
+  }
+
+  char* data_ = nullptr;
+  std::size_t capacity_ = 0;
   std::size_t pos_ = 0;
   std::vector<Open> open_;
 };
@@ -134,38 +181,38 @@ public:
 
   explicit operator bool() const noexcept { return true; }
 
-  void set_param(char const* key, char const* value) {
+  void set_param(Key key, char const* value) {
     member(key);
     char const* const text = value != nullptr ? value : "";
     write_json_string(*writer_, text, std::strlen(text));
   }
-  void set_param_opt(char const* key, std::optional<std::string> const& value) {
+  void set_param_opt(Key key, std::optional<std::string> const& value) {
     if (value) {
       member(key);
       write_json_string(*writer_, value->data(), value->size());
     }
   }
-  void set_boolean_opt(char const* key, std::optional<bool> const& value) {
+  void set_boolean_opt(Key key, std::optional<bool> const& value) {
     if (value) {
       member(key);
       put_text(*value ? "true" : "false");
     }
   }
-  void set_int(char const* key, int value) { integer_member(key, value); }
-  void set_int32(char const* key, std::int32_t value) { integer_member(key, value); }
-  void set_uint8(char const* key, std::uint8_t value) {
+  void set_int(Key key, int value) { integer_member(key, value); }
+  void set_int32(Key key, std::int32_t value) { integer_member(key, value); }
+  void set_uint8(Key key, std::uint8_t value) {
     integer_member(key, static_cast<unsigned int>(value));
   }
-  void set_uint32_opt(char const* key, std::optional<unsigned int> const& value) {
+  void set_uint32_opt(Key key, std::optional<unsigned int> const& value) {
     if (value) {
       integer_member(key, *value);
     }
   }
 
-  TextSink object(char const* key) { return open_member(key, '{', '}'); }
-  TextSink object_or_existing(char const* key) { return object(key); }
-  TextSink array(char const* key) { return open_member(key, '[', ']'); }
-  TextSink array_or_existing(char const* key) { return array(key); }
+  TextSink object(Key key) { return open_member(key, '{', '}'); }
+  TextSink object_or_existing(Key key) { return object(key); }
+  TextSink array(Key key) { return open_member(key, '[', ']'); }
+  TextSink array_or_existing(Key key) { return array(key); }
 
   void append_int(int value) {
     element();
@@ -184,12 +231,21 @@ private:
     writer_->close_to(depth_);
     writer_->separate();
   }
-  void member(char const* key) {
+  void member(Key key) {
     element();
-    write_json_string(*writer_, key, std::strlen(key));
-    writer_->put(':');
+    if (key.plain()) {
+      char* const o = writer_->room(key.size() + 3);
+      o[0] = '"';
+      std::memcpy(o + 1, key.c_str(), key.size());
+      o[key.size() + 1] = '"';
+      o[key.size() + 2] = ':';
+      writer_->advance(key.size() + 3);
+    } else {
+      write_json_string(*writer_, key.c_str(), key.size());
+      writer_->put(':');
+    }
   }
-  TextSink open_member(char const* key, char opening, char closing) {
+  TextSink open_member(Key key, char opening, char closing) {
     member(key);
     writer_->open(opening, closing);
     return TextSink(*writer_, writer_->depth());
@@ -200,7 +256,7 @@ private:
     std::memcpy(writer_->room(n), buf, n);
     writer_->advance(n);
   }
-  template <typename T> void integer_member(char const* key, T value) {
+  template <typename T> void integer_member(Key key, T value) {
     member(key);
     integer(value);
   }

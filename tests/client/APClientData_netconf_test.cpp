@@ -13,7 +13,9 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <cstdio>
 #include <functional>
+#include <iterator>
 #include <optional>
 #include <random>
 #include <regex>
@@ -393,6 +395,46 @@ TEST(APClientDataNetconf, UptimeAsScanfReadsIt) {
   EXPECT_EQ(uptime_of("1d2:3:4"), 93784U);      // " d " matches any white space, none included
   EXPECT_EQ(uptime_of("1  d\\t2:3:4"), 93784U); // a tab, escaped in the JSON text
   EXPECT_EQ(uptime_of("3 d 0:0:1 extra"), 259201U);
+}
+
+// The uptime as the two scanf formats read it, the way the import is defined.
+std::optional<std::uint32_t> uptime_by_scanf(std::string const& text) {
+  unsigned int hours = 0;
+  unsigned int minutes = 0;
+  unsigned int seconds = 0;
+  if (std::sscanf(text.c_str(), "%u:%u:%u", &hours, &minutes, &seconds) == 3) {
+    return hours * 3600U + minutes * 60U + seconds;
+  }
+  unsigned int days = 0;
+  if (std::sscanf(text.c_str(), "%u d %u:%u:%u", &days, &hours, &minutes, &seconds) == 4) {
+    return days * 86400U + hours * 3600U + minutes * 60U + seconds;
+  }
+  return std::nullopt;
+}
+
+// The import reads the common shapes by hand; on texts put together from the pieces of both
+// shapes, signs, white space, long digit runs and junk, it reads what the formats read.
+TEST(APClientDataNetconf, UptimeAgreesWithTheScanfFormatsOnManyTexts) {
+  static constexpr char const* pieces[] = {
+      "0",   "1",         "7",          "59",         "00",
+      "007", "123456789", "1234567890", "4294967296", "99999999999999999999",
+      "+",   "-",         " ",          ":",          ":",
+      ":",   " d ",       "d",          "  d ",       "x",
+      ".",   "d "};
+  std::mt19937 engine(7);
+  std::uniform_int_distribution<std::size_t> piece(0, std::size(pieces) - 1);
+  std::uniform_int_distribution<int> count(1, 9);
+  for (int i = 0; i < 20000; ++i) {
+    std::string text;
+    for (int n = count(engine); n > 0; --n) {
+      text += pieces[piece(engine)];
+    }
+    EXPECT_EQ(uptime_of(text), uptime_by_scanf(text)) << '"' << text << '"';
+  }
+  for (char const* text : {"1:2:3", "12 d 23:59:59", "999999999:0:0", "1 d 999999999:1:1",
+                           "0000000001:0:0", "1 d 2:3:4 rest", "1:2:3:4"}) {
+    EXPECT_EQ(uptime_of(text), uptime_by_scanf(text)) << text;
+  }
 }
 
 TEST(APClientDataNetconf, UptimeWrapsAsUnsigned32) {
