@@ -8,7 +8,7 @@
 #include <wlccw/enums/WidsClientBannedEAPMethod.hpp>
 #include <wlccw/enums/WidsDosPacket.hpp>
 
-#include "support/allocations.hpp"
+#include "support/cycle.hpp"
 
 #include <benchmark/benchmark.h>
 
@@ -24,21 +24,7 @@ constexpr std::size_t input_count = 8;
 
 template <typename T> using Inputs = std::array<T, input_count>;
 
-// Runs conversion over the inputs in turn, one call per iteration.
-template <typename T, typename Conversion>
-void cycle(benchmark::State& state, Inputs<T> const& inputs, Conversion conversion) {
-  std::size_t i = 0;
-  wlccw::bench::AllocationCount const allocations;
-  for (auto _ : state) {
-    T const& input = inputs[i];
-    benchmark::DoNotOptimize(&input);
-    auto result = conversion(input);
-    benchmark::DoNotOptimize(result);
-    i = (i + 1) % input_count;
-  }
-  allocations.report(state);
-  state.SetItemsProcessed(state.iterations());
-}
+using wlccw::bench::cycle;
 
 // ---- client family: optionals, two text forms ------------------------------------------------
 

@@ -5,9 +5,8 @@
 #include <wlccw/wlccw.hpp>
 
 #include <benchmark/benchmark.h>
-#include <boost/json.hpp>
-#include <simdjson.h>
 
+#include "support/baselines.hpp"
 #include "workload.hpp"
 
 #include <cstdlib>
@@ -67,14 +66,18 @@ PollTexts convert(std::string const& text) {
   return out;
 }
 
-void BM_ReplyToFiveIpcTexts(benchmark::State& state) {
-  std::string const& text = reply();
+/// Converts text into the five IPC texts once per iteration.
+void five_texts(benchmark::State& state, std::string const& text) {
   for (auto _ : state) {
     PollTexts texts = convert(text);
     benchmark::DoNotOptimize(&texts);
   }
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
                           static_cast<std::int64_t>(text.size()));
+}
+
+void BM_ReplyToFiveIpcTexts(benchmark::State& state) {
+  five_texts(state, reply());
 }
 
 void BM_InformationFromReply(benchmark::State& state) {
@@ -108,15 +111,9 @@ void BM_NeighboursFromParsedReply(benchmark::State& state) {
 }
 
 void BM_BoostParseSerializeReply(benchmark::State& state) {
-  std::string const& text = reply();
-  for (auto _ : state) {
-    boost::json::monotonic_resource mr;
-    boost::json::value const v = boost::json::parse(text, &mr);
-    std::string out = boost::json::serialize(v);
-    benchmark::DoNotOptimize(out.data());
-  }
+  wlccw::bench::boost_parse_serialize(state, reply());
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
-                          static_cast<std::int64_t>(text.size()));
+                          static_cast<std::int64_t>(reply().size()));
 }
 
 /// A busy AP's reply: four radios, twelve interfaces, four ports and 200 neighbours.
@@ -126,40 +123,19 @@ std::string const& generated_reply() {
 }
 
 void BM_GeneratedReplyToFiveIpcTexts(benchmark::State& state) {
-  std::string const& text = generated_reply();
-  for (auto _ : state) {
-    PollTexts texts = convert(text);
-    benchmark::DoNotOptimize(&texts);
-  }
-  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
-                          static_cast<std::int64_t>(text.size()));
+  five_texts(state, generated_reply());
 }
 
 void BM_GeneratedReplyFloor_BoostParseSerialize(benchmark::State& state) {
-  std::string const& text = generated_reply();
-  for (auto _ : state) {
-    boost::json::monotonic_resource mr;
-    boost::json::value const v = boost::json::parse(text, &mr);
-    std::string out = boost::json::serialize(v);
-    benchmark::DoNotOptimize(out.data());
-  }
+  wlccw::bench::boost_parse_serialize(state, generated_reply());
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
-                          static_cast<std::int64_t>(text.size()));
+                          static_cast<std::int64_t>(generated_reply().size()));
 }
 
 void BM_GeneratedReplyLimit_SimdjsonDomParse(benchmark::State& state) {
-  simdjson::padded_string const padded(generated_reply());
-  simdjson::dom::parser parser;
-  for (auto _ : state) {
-    simdjson::dom::element root;
-    if (parser.parse(padded).get(root) != simdjson::SUCCESS) {
-      state.SkipWithError("simdjson refused the reply");
-      return;
-    }
-    benchmark::DoNotOptimize(&root);
-  }
+  wlccw::bench::simdjson_dom_parse(state, generated_reply());
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
-                          static_cast<std::int64_t>(padded.size()));
+                          static_cast<std::int64_t>(generated_reply().size()));
 }
 
 } // namespace

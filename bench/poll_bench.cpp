@@ -12,14 +12,13 @@
 // also reports its heap peak above the program's baseline, as a multiple of the reply's size.
 #include "nlohmann_peer.hpp"
 #include "poll.hpp"
+#include "support/baselines.hpp"
 #include "support/heap_counter.hpp"
 #include "workload.hpp"
 
 #include <wlccw/wlccw.hpp>
 
 #include <benchmark/benchmark.h>
-#include <boost/json.hpp>
-#include <simdjson.h>
 
 #include <cstdint>
 #include <map>
@@ -113,27 +112,13 @@ void BM_PollWrite(benchmark::State& state) {
 
 void BM_Floor_BoostParseSerialize(benchmark::State& state) {
   std::string const& text = reply(clients(state));
-  for (auto _ : state) {
-    boost::json::monotonic_resource resource;
-    boost::json::value const value = boost::json::parse(text, &resource);
-    std::string out = boost::json::serialize(value);
-    benchmark::DoNotOptimize(out.data());
-  }
+  wlccw::bench::boost_parse_serialize(state, text);
   per_client(state, text);
 }
 
 void BM_Limit_SimdjsonDomParse(benchmark::State& state) {
   std::string const& text = reply(clients(state));
-  simdjson::padded_string const padded(text);
-  simdjson::dom::parser parser;
-  for (auto _ : state) {
-    simdjson::dom::element root;
-    if (parser.parse(padded).get(root) != simdjson::SUCCESS) {
-      state.SkipWithError("simdjson refused the reply");
-      return;
-    }
-    benchmark::DoNotOptimize(&root);
-  }
+  wlccw::bench::simdjson_dom_parse(state, text);
   per_client(state, text);
 }
 
@@ -158,12 +143,7 @@ void BM_Receive(benchmark::State& state) {
 
 void BM_ReceiveFloor_BoostParseSerialize(benchmark::State& state) {
   std::string const ipc = wlccw::workload::library_poll(reply(clients(state))).ipc_text;
-  for (auto _ : state) {
-    boost::json::monotonic_resource resource;
-    boost::json::value const value = boost::json::parse(ipc, &resource);
-    std::string out = boost::json::serialize(value);
-    benchmark::DoNotOptimize(out.data());
-  }
+  wlccw::bench::boost_parse_serialize(state, ipc);
   per_client(state, ipc);
 }
 

@@ -3,7 +3,7 @@
 // averaged. Each loop cycles through inputs held in memory and reports its heap allocations per
 // call (allocs/op).
 #include "detail/modulation.hpp"
-#include "support/allocations.hpp"
+#include "support/cycle.hpp"
 
 #include <wlccw/common/MacAddr.hpp>
 #include <wlccw/common/html.hpp>
@@ -20,20 +20,7 @@
 
 namespace {
 
-template <typename T, std::size_t N, typename Conversion>
-void cycle(benchmark::State& state, std::array<T, N> const& inputs, Conversion conversion) {
-  std::size_t i = 0;
-  wlccw::bench::AllocationCount const allocations;
-  for (auto _ : state) {
-    T const& input = inputs[i];
-    benchmark::DoNotOptimize(&input);
-    auto result = conversion(input);
-    benchmark::DoNotOptimize(result);
-    i = (i + 1) % N;
-  }
-  allocations.report(state);
-  state.SetItemsProcessed(state.iterations());
-}
+using wlccw::bench::cycle;
 
 std::array<char const*, 4> const colon_macs{"A4:5E:60:C2:19:7B", "3c:22:fb:00:10:ff",
                                             "F0:18:98:AB:CD:EF", "8c:85:90:12:34:56"};

@@ -14,16 +14,13 @@
 //   as the AP wrote it.
 #pragma once
 
-#include <cstddef>
+#include "workload.hpp"
+
 #include <string>
 
 namespace wlccw::peer {
 
-struct PollResult {
-  std::string ipc_text;
-  std::size_t hash = 0;
-  std::size_t clients = 0;
-};
+using PollResult = wlccw::workload::PollResult;
 
 /// The whole poll of one reply: parse, import every client (a client without a valid "hw-addr",
 /// without an "interface" or with an empty SSID is left out), group by interface, write the IPC

@@ -13,12 +13,6 @@
 
 namespace wlccw::workload {
 
-struct PollResult {
-  std::string ipc_text;
-  std::size_t hash = 0;
-  std::size_t clients = 0;
-};
-
 /// The client list of one reply. A client object the import refuses (bad address, no interface or
 /// SSID) is left out, as a daemon does.
 inline NcIpcClientList import_clients(std::string const& reply) {

@@ -16,6 +16,14 @@
 
 namespace wlccw::workload {
 
+/// What one poll of a client reply gives: the IPC text of the AP's client list, its hash (the
+/// standard string hash of the text) and the number of clients in it.
+struct PollResult {
+  std::string ipc_text;
+  std::size_t hash = 0;
+  std::size_t clients = 0;
+};
+
 /// Where the client array stands in a generated client reply.
 inline constexpr char const* client_array_path = "/rpc-reply/data/clients";
 
