@@ -36,13 +36,15 @@ consumer: build
 
 test: test-release test-asan test-tsan test-fuzz consumer format-check
 
-# Release benchmarks. The poll runs three times; its report and the chart of time per client
+# Release benchmarks. The poll runs three times, its benchmarks interleaved in random order so that
+# a slow spell of the machine does not fall on one of them; its report and the chart of time per client
 # against N land in build/bench/ (poll.json, poll-per-client.svg) with the ratio tables printed.
 BENCH := build/bench/bench
 bench: deps
 	cmake --preset bench
 	cmake --build --preset bench
-	$(BENCH)/wlccw_bench_poll --benchmark_repetitions=3 --benchmark_report_aggregates_only=true \
+	$(BENCH)/wlccw_bench_poll --benchmark_repetitions=3 --benchmark_enable_random_interleaving=true \
+	  --benchmark_report_aggregates_only=true \
 	  --benchmark_out=build/bench/poll.json --benchmark_out_format=json
 	scripts/plot-poll build/bench/poll.json build/bench/poll-per-client.svg
 	$(BENCH)/wlccw_bench_monitoring

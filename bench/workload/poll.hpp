@@ -15,16 +15,20 @@ namespace wlccw::workload {
 
 /// The client list of one reply. A client object the import refuses (bad address, no interface or
 /// SSID) is left out, as a daemon does.
+/// The reply is read one client object at a time; a reply that turns out not to be valid JSON
+/// gives no clients at all.
 inline NcIpcClientList import_clients(std::string const& reply) {
   NcIpcClientList list;
-  wlccw::cfg::Tree const root = wlccw::cfg::parse(reply);
-  lcw_data_t* const clients = cfg_get_subtree_from_path(root.get(), client_array_path);
-  wlccw::cfg::for_each_element(clients, [&list](lcw_data_t& client) {
-    try {
-      list.add_or_update(APClientData::from_netconf_json(&client));
-    } catch (std::invalid_argument const&) {
-    }
-  });
+  bool const whole = wlccw::cfg::for_each_array_element(
+      reply.c_str(), client_array_path, [&list](lcw_data_t& client) {
+        try {
+          list.add_or_update(APClientData::from_netconf_json(&client));
+        } catch (std::invalid_argument const&) {
+        }
+      });
+  if (!whole) {
+    list.clear();
+  }
   return list;
 }
 

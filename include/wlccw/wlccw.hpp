@@ -5,6 +5,7 @@
 #include <wlccw/version.hpp>
 
 // The host's tree interface and the RAII owners over it.
+#include <wlccw/cfg/elements.hpp>
 #include <wlccw/cfg/owned.hpp>
 #include <wlccw/cfg/tree.hpp>
 

@@ -20,6 +20,7 @@
 #include <wlccw/cfg/tree.hpp>
 
 #include "detail/json_text.hpp"
+#include "detail/tree_extensions.hpp"
 
 #include <boost/json/basic_parser_impl.hpp>
 
@@ -30,9 +31,11 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <exception>
 #include <limits>
 #include <memory>
 #include <new>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -647,8 +650,8 @@ template <typename T> void set_member_integer(lcw_data_t* node, char const* key,
 // ---- Parsing
 // -----------------------------------------------------------------------------------
 
-class Builder {
-public:
+// What Boost.JSON's event parser asks of a handler besides its events.
+struct HandlerTypes {
   using error_code = boost::json::error_code;
   using string_view = boost::json::string_view;
 
@@ -656,7 +659,37 @@ public:
   static constexpr std::size_t max_object_size = static_cast<std::size_t>(-1);
   static constexpr std::size_t max_string_size = max_text_len;
   static constexpr std::size_t max_key_size = max_text_len;
+};
 
+// The options of every parse: nesting bounded, invalid UTF-8 inside strings accepted (an SSID
+// decoded from "&#xff;" must survive the trip between daemons).
+boost::json::parse_options parse_options() {
+  boost::json::parse_options options;
+  options.max_depth = max_depth;
+  options.allow_invalid_utf8 = true;
+  return options;
+}
+
+// Calls fn(name, length) for each member name of a "/"-separated path, in order; empty names
+// (doubled, leading or trailing slashes) are skipped.
+template <typename Fn> bool for_each_path_name(char const* path, Fn&& fn) {
+  for (char const* p = path; *p != '\0';) {
+    if (*p == '/') {
+      ++p;
+      continue;
+    }
+    char const* end = std::strchr(p, '/');
+    std::size_t const len = end != nullptr ? static_cast<std::size_t>(end - p) : std::strlen(p);
+    if (!fn(p, len)) {
+      return false;
+    }
+    p += len;
+  }
+  return true;
+}
+
+class Builder : public HandlerTypes {
+public:
   explicit Builder(std::size_t text_len) { reserve_ = text_len; }
 
   Doc* release() noexcept { return std::exchange(doc_, nullptr); }
@@ -785,6 +818,187 @@ private:
   std::uint32_t key_len_ = 0;
   std::string part_; // pieces of a string, key or number split by escapes
   std::size_t reserve_ = 0;
+};
+
+// ---- Reading the elements of one array, one at a time
+// ----------------------------------------------------------
+
+// A handler that builds only the elements of the array at a path, each as a tree of its own,
+// hands each to a callback as soon as it is complete and releases it: the rest of the text is
+// checked by the parser but never built. The path is followed as cfg_get_subtree_from_path
+// follows it in the whole tree: member names in order, the first member of each name.
+class ElementStream : public HandlerTypes {
+public:
+  ElementStream(char const* path, void (*fn)(lcw_data_t*, void*), void* ctx) : fn_(fn), ctx_(ctx) {
+    for_each_path_name(path, [this](char const* name, std::size_t len) {
+      segments_.emplace_back(name, len);
+      return true;
+    });
+  }
+
+  /// The exception the callback threw, which stopped the parse.
+  std::exception_ptr const& failure() const noexcept { return failure_; }
+
+  bool on_document_begin(error_code&) { return true; }
+  bool on_document_end(error_code&) { return true; }
+
+  bool on_array_begin(error_code& ec) { return begin(Kind::Array, ec); }
+  bool on_array_end(std::size_t n, error_code& ec) {
+    if (element_) {
+      return element_->on_array_end(n, ec) && end_of_container(ec);
+    }
+    frames_.pop_back();
+    return true;
+  }
+  bool on_object_begin(error_code& ec) { return begin(Kind::Object, ec); }
+  bool on_object_end(std::size_t n, error_code& ec) {
+    if (element_) {
+      return element_->on_object_end(n, ec) && end_of_container(ec);
+    }
+    frames_.pop_back();
+    return true;
+  }
+
+  bool on_string_part(string_view s, std::size_t n, error_code& ec) {
+    start_scalar_element();
+    return !element_ || element_->on_string_part(s, n, ec);
+  }
+  bool on_string(string_view s, std::size_t n, error_code& ec) {
+    return scalar(ec, [&](Builder& b) { return b.on_string(s, n, ec); });
+  }
+  bool on_key_part(string_view s, std::size_t n, error_code& ec) {
+    if (element_) {
+      return element_->on_key_part(s, n, ec);
+    }
+    key_.append(s.data(), s.size());
+    return true;
+  }
+  bool on_key(string_view s, std::size_t n, error_code& ec) {
+    if (element_) {
+      return element_->on_key(s, n, ec);
+    }
+    key_.append(s.data(), s.size());
+    // The value after this key is on the path when the object is, the key is the next name of
+    // the path and no member of that name came before it.
+    Frame& frame = frames_.back();
+    std::size_t const depth = frames_.size() - 1;
+    next_on_path_ = frame.on_path && depth < segments_.size() && !frame.matched &&
+                    std::string_view(key_) == segments_[depth];
+    if (next_on_path_) {
+      frame.matched = true;
+    }
+    key_.clear();
+    return true;
+  }
+  bool on_number_part(string_view s, error_code& ec) {
+    start_scalar_element();
+    return !element_ || element_->on_number_part(s, ec);
+  }
+  bool on_int64(std::int64_t i, string_view s, error_code& ec) {
+    return scalar(ec, [&](Builder& b) { return b.on_int64(i, s, ec); });
+  }
+  bool on_uint64(std::uint64_t u, string_view s, error_code& ec) {
+    return scalar(ec, [&](Builder& b) { return b.on_uint64(u, s, ec); });
+  }
+  bool on_double(double d, string_view s, error_code& ec) {
+    return scalar(ec, [&](Builder& b) { return b.on_double(d, s, ec); });
+  }
+  bool on_bool(bool v, error_code& ec) {
+    return scalar(ec, [&](Builder& b) { return b.on_bool(v, ec); });
+  }
+  bool on_null(error_code& ec) {
+    return scalar(ec, [&](Builder& b) { return b.on_null(ec); });
+  }
+  bool on_comment_part(string_view, error_code&) { return true; }
+  bool on_comment(string_view, error_code&) { return true; }
+
+private:
+  // A container the parse is in, outside the elements.
+  struct Frame {
+    Kind kind;
+    bool on_path; // reached by following the path's first names
+    bool matched; // the member of the next name has been met
+  };
+
+  // Whether the next value is on the path: the root always is, a member when its key said so.
+  bool value_on_path() const noexcept { return frames_.empty() || next_on_path_; }
+
+  // Whether the next value is an element of the array at the path.
+  bool in_target() const noexcept {
+    return !frames_.empty() && frames_.back().kind == Kind::Array && frames_.back().on_path &&
+           frames_.size() - 1 == segments_.size();
+  }
+
+  bool begin(Kind kind, error_code& ec) {
+    if (!element_ && in_target()) {
+      element_.emplace(element_size_hint);
+      depth_ = 0;
+    }
+    if (element_) {
+      ++depth_;
+      return kind == Kind::Array ? element_->on_array_begin(ec) : element_->on_object_begin(ec);
+    }
+    bool const on_path = value_on_path() && frames_.size() <= segments_.size();
+    frames_.push_back({kind, on_path, false});
+    next_on_path_ = false;
+    return true;
+  }
+
+  bool end_of_container(error_code& ec) {
+    if (--depth_ == 0) {
+      return deliver(ec);
+    }
+    return true;
+  }
+
+  // A scalar element of the array starts with its first piece: a string or number split by
+  // escapes or buffer ends comes in parts before its last one.
+  void start_scalar_element() {
+    if (!element_ && in_target()) {
+      element_.emplace(element_size_hint);
+      depth_ = 0;
+    }
+  }
+
+  template <typename Event> bool scalar(error_code& ec, Event&& event) {
+    start_scalar_element();
+    if (element_) {
+      if (!event(*element_)) {
+        return false;
+      }
+      return depth_ == 0 ? deliver(ec) : true;
+    }
+    next_on_path_ = false;
+    return true;
+  }
+
+  // Hands the finished element to the callback and releases it. An exception from the callback
+  // stops the parse and is kept for the caller to rethrow.
+  bool deliver(error_code& ec) {
+    std::unique_ptr<Doc> element(element_->release());
+    element_.reset();
+    try {
+      fn_(element.get(), ctx_);
+    } catch (...) {
+      failure_ = std::current_exception();
+      ec = boost::json::make_error_code(boost::json::error::exception);
+      return false;
+    }
+    return true;
+  }
+
+  // About the size of one AP client object: its tree then needs one or two arena chunks.
+  static constexpr std::size_t element_size_hint = 2048;
+
+  void (*fn_)(lcw_data_t*, void*);
+  void* ctx_;
+  std::vector<std::string_view> segments_;
+  std::vector<Frame> frames_;
+  std::string key_; // the pieces of a key outside the elements
+  bool next_on_path_ = false;
+  std::optional<Builder> element_;
+  std::size_t depth_ = 0; // containers open inside the element
+  std::exception_ptr failure_;
 };
 
 // ---- Serialising
@@ -984,16 +1198,28 @@ lcw_data_t* cfg_parse_buffer(char const* text) {
     return nullptr;
   }
   std::size_t const len = std::strlen(text);
-  boost::json::parse_options options;
-  options.max_depth = max_depth;
-  options.allow_invalid_utf8 = true;
-  boost::json::basic_parser<Builder> parser(options, len);
+  boost::json::basic_parser<Builder> parser(parse_options(), len);
   boost::json::error_code ec;
   std::size_t const used = parser.write_some(false, text, len, ec);
   if (ec || !parser.done() || used != len) {
     return nullptr;
   }
   return parser.handler().release();
+}
+
+bool cfg_parse_array_elements(char const* text, char const* path,
+                              void (*fn)(lcw_data_t* element, void* ctx), void* ctx) {
+  if (text == nullptr || path == nullptr || fn == nullptr) {
+    return false;
+  }
+  std::size_t const len = std::strlen(text);
+  boost::json::basic_parser<ElementStream> parser(parse_options(), path, fn, ctx);
+  boost::json::error_code ec;
+  std::size_t const used = parser.write_some(false, text, len, ec);
+  if (std::exception_ptr const failure = parser.handler().failure()) {
+    std::rethrow_exception(failure);
+  }
+  return !ec && parser.done() && used == len;
 }
 
 char const* cfg_serialize_compact(lcw_data_t const* node) {
@@ -1111,21 +1337,11 @@ lcw_data_t* cfg_get_subtree_from_path(lcw_data_t const* node, char const* path) 
     return nullptr;
   }
   auto* cur = const_cast<lcw_data_t*>(node);
-  char const* p = path;
-  while (*p != '\0') {
-    if (*p == '/') {
-      ++p;
-      continue;
-    }
-    char const* end = std::strchr(p, '/');
-    std::size_t const len = end != nullptr ? static_cast<std::size_t>(end - p) : std::strlen(p);
-    cur = find_member(cur, p, len);
-    if (cur == nullptr) {
-      return nullptr;
-    }
-    p += len;
-  }
-  return cur;
+  bool const found = for_each_path_name(path, [&cur](char const* name, std::size_t len) {
+    cur = find_member(cur, name, len);
+    return cur != nullptr;
+  });
+  return found ? cur : nullptr;
 }
 
 // ---- Reading a scalar node

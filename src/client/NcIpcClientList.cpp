@@ -12,6 +12,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -191,14 +192,31 @@ NcIpcClientList NcIpcClientList::from_ipc_json(lcw_data_t* root) {
   return list;
 }
 
+#if WLCCW_BUNDLED_TREE
+namespace {
+
+/// Writes into text what the bundled backend would serialise from to_ipc_json, without the tree;
+/// false, writing nothing, for a list whose interface names only the tree can merge.
+bool write_text(wlccw::detail::JsonTextWriter& text, NcIpcClientList const& list) {
+  if (!interface_names_are_distinct(list)) {
+    return false;
+  }
+  wlccw::detail::TextSink root(text);
+  write_list(root, list);
+  return true;
+}
+
+/// Room for the text of a list: a client's IPC object takes about a kilobyte.
+std::size_t expected_text_size(NcIpcClientList const& list) {
+  return 1024 + std::size_t{list.clients_count} * 1152;
+}
+
+} // namespace
+#endif
+
 std::string NcIpcClientList::to_str() const {
 #if WLCCW_BUNDLED_TREE
-  // The text the bundled backend would serialise from to_ipc_json, written without the tree.
-  if (interface_names_are_distinct(*this)) {
-    // A client's IPC object takes about a kilobyte.
-    wlccw::detail::JsonTextWriter text(1024 + std::size_t{clients_count} * 1280);
-    wlccw::detail::TextSink root(text);
-    write_list(root, *this);
+  if (wlccw::detail::JsonTextWriter text(expected_text_size(*this)); write_text(text, *this)) {
     return text.take();
   }
 #endif
@@ -210,5 +228,11 @@ std::string NcIpcClientList::to_str() const {
 }
 
 std::size_t NcIpcClientList::get_hash() const {
+#if WLCCW_BUNDLED_TREE
+  // The hash of a string is the hash of its characters: the text need not become a string.
+  if (wlccw::detail::JsonTextWriter text(expected_text_size(*this)); write_text(text, *this)) {
+    return std::hash<std::string_view>{}(text.view());
+  }
+#endif
   return std::hash<std::string>{}(to_str());
 }

@@ -26,6 +26,7 @@
 #include <new>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -144,9 +145,11 @@ public:
   std::size_t depth() const noexcept { return open_.size(); }
 
   /// The whole text, every container closed.
-  std::string take() {
+  std::string take() { return std::string(view()); }
+  /// The whole text, every container closed, valid while the writer lives and writes no more.
+  std::string_view view() {
     close_to(0);
-    return std::string(data_, pos_);
+    return {data_, pos_};
   }
 
 private:
