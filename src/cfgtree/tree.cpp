@@ -127,6 +127,21 @@ public:
 
   void reserve(std::size_t bytes) { next_size_ = std::max(next_size_, bytes); }
 
+  // Forgets everything allocated, keeping the newest (largest) chunk for what comes next.
+  void rewind() noexcept {
+    if (head_ == nullptr) {
+      return;
+    }
+    Chunk* c = head_->next;
+    while (c != nullptr) {
+      Chunk* next = c->next;
+      std::free(c);
+      c = next;
+    }
+    head_->next = nullptr;
+    cur_ = reinterpret_cast<std::uintptr_t>(head_) + sizeof(Chunk);
+  }
+
   void* allocate(std::size_t size, std::size_t align) {
     std::uintptr_t p = (cur_ + (align - 1)) & ~(std::uintptr_t{align} - 1);
     if (head_ == nullptr || p + size > end_) {
@@ -205,6 +220,15 @@ private:
 // A root node together with the storage of its whole tree.
 struct Doc : lcw_data_t {
   Doc() { c.doc = this; }
+
+  // Makes the root an empty node again and forgets the tree, keeping the arena's largest chunk:
+  // the next tree built here allocates nothing while it fits.
+  void reuse() noexcept {
+    arena.rewind();
+    static_cast<lcw_data_t&>(*this) = lcw_data_t();
+    c.doc = this;
+  }
+
   Arena arena;
   TextBuffer out; // the last serialised text of any node of this tree, NUL-terminated
 };
@@ -691,9 +715,15 @@ template <typename Fn> bool for_each_path_name(char const* path, Fn&& fn) {
 class Builder : public HandlerTypes {
 public:
   explicit Builder(std::size_t text_len) { reserve_ = text_len; }
+  /// Builds into root, which stays the caller's, instead of a new root.
+  explicit Builder(Doc* root) : reuse_(root) {}
 
   Doc* release() noexcept { return std::exchange(doc_, nullptr); }
-  ~Builder() { delete doc_; }
+  ~Builder() {
+    if (doc_ != reuse_) {
+      delete doc_;
+    }
+  }
   Builder(Builder const&) = delete;
   Builder& operator=(Builder const&) = delete;
 
@@ -770,8 +800,13 @@ private:
   lcw_data_t* value(Kind kind) {
     lcw_data_t* n = nullptr;
     if (doc_ == nullptr) {
-      doc_ = new Doc();
-      doc_->arena.reserve(reserve_ * 2 + 256);
+      if (reuse_ != nullptr) {
+        reuse_->reuse();
+        doc_ = reuse_;
+      } else {
+        doc_ = new Doc();
+        doc_->arena.reserve(reserve_ * 2 + 256);
+      }
       n = doc_;
     } else {
       n = doc_->arena.make<lcw_data_t>();
@@ -818,6 +853,7 @@ private:
   std::uint32_t key_len_ = 0;
   std::string part_; // pieces of a string, key or number split by escapes
   std::size_t reserve_ = 0;
+  Doc* reuse_ = nullptr;
 };
 
 // ---- Reading the elements of one array, one at a time
@@ -834,6 +870,7 @@ public:
       segments_.emplace_back(name, len);
       return true;
     });
+    scratch_.arena.reserve(4096); // about what an AP's client object takes
   }
 
   /// The exception the callback threw, which stopped the parse.
@@ -931,7 +968,7 @@ private:
 
   bool begin(Kind kind, error_code& ec) {
     if (!element_ && in_target()) {
-      element_.emplace(element_size_hint);
+      element_.emplace(&scratch_);
       depth_ = 0;
     }
     if (element_) {
@@ -955,7 +992,7 @@ private:
   // escapes or buffer ends comes in parts before its last one.
   void start_scalar_element() {
     if (!element_ && in_target()) {
-      element_.emplace(element_size_hint);
+      element_.emplace(&scratch_);
       depth_ = 0;
     }
   }
@@ -972,13 +1009,13 @@ private:
     return true;
   }
 
-  // Hands the finished element to the callback and releases it. An exception from the callback
-  // stops the parse and is kept for the caller to rethrow.
+  // Hands the finished element to the callback; the next element is built in its place. An
+  // exception from the callback stops the parse and is kept for the caller to rethrow.
   bool deliver(error_code& ec) {
-    std::unique_ptr<Doc> element(element_->release());
+    Doc* const element = element_->release();
     element_.reset();
     try {
-      fn_(element.get(), ctx_);
+      fn_(element, ctx_);
     } catch (...) {
       failure_ = std::current_exception();
       ec = boost::json::make_error_code(boost::json::error::exception);
@@ -987,15 +1024,15 @@ private:
     return true;
   }
 
-  // About the size of one AP client object: its tree then needs one or two arena chunks.
-  static constexpr std::size_t element_size_hint = 2048;
-
   void (*fn_)(lcw_data_t*, void*);
   void* ctx_;
   std::vector<std::string_view> segments_;
   std::vector<Frame> frames_;
   std::string key_; // the pieces of a key outside the elements
   bool next_on_path_ = false;
+  // Every element is built in this one root, so that once its arena has grown to the largest
+  // element the reading allocates nothing more for trees, and the memory stays in the cache.
+  Doc scratch_;
   std::optional<Builder> element_;
   std::size_t depth_ = 0; // containers open inside the element
   std::exception_ptr failure_;

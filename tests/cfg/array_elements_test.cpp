@@ -144,6 +144,35 @@ TEST(ArrayElements, AnExceptionFromTheFunctionStopsTheReadingAndPropagates) {
   EXPECT_EQ(calls, 2);
 }
 
+// The elements are built one after the other in the same storage: large ones after small ones
+// and small ones after large ones each come out whole, with nothing of the one before.
+TEST(ArrayElements, ElementsOfEverySizeFollowingEachOtherComeOutWhole) {
+  std::string text = "[";
+  std::vector<std::string> expected;
+  for (std::size_t size : {1U, 1000U, 100000U, 3U, 50000U, 0U, 20U}) {
+    std::string element = "{\"k" + std::to_string(size) + "\":\"" + std::string(size, 'x') + "\"";
+    for (std::size_t i = 0; i < size / 1000; ++i) {
+      element += ",\"m" + std::to_string(i) + "\":[" + std::to_string(i) + "]";
+    }
+    element += "}";
+    if (text.size() > 1) {
+      text += ',';
+    }
+    text += element;
+    expected.push_back(element);
+  }
+  text += "]";
+  Streamed const got = streamed(text, "");
+  EXPECT_TRUE(got.whole);
+  EXPECT_EQ(got.elements, expected);
+  // A member of one element is not found in the next one.
+  std::vector<bool> found;
+  for_each_array_element(R"([{"a":1},{"b":2},{"a":3}])", "", [&found](lcw_data_t& element) {
+    found.push_back(cfg_contain_param(&element, "a") != 0);
+  });
+  EXPECT_EQ(found, (std::vector<bool>{true, false, true}));
+}
+
 TEST(ArrayElements, NestingBeyondTheLimitIsRefused) {
   std::string deep = "{\"a\":[";
   deep += std::string(600, '[') + std::string(600, ']') + "]}";

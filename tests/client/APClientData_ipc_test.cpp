@@ -416,18 +416,7 @@ TEST(APClientDataIpcRoundTrip, WithoutStatisticsTheCutOffMembersAreLost) {
   APClientData expected = client;
   expected.rssi.reported = client.rssi.get_signal();
   expected.snr.reported = client.snr.get_signal();
-  expected.eap_method.reset();
-  expected.mac_auth_status.reset();
-  expected.portal_auth_status.reset();
-  expected.wlan_auth_status.reset();
-  expected.wlan_auth_method.reset();
-  expected.auth_algorithm.reset();
-  expected.wlan_auth_uptime.reset();
-  expected.mac_auth_uptime.reset();
-  expected.portal_auth_uptime.reset();
-  expected.mlo.reset();
-  expected.encryption_cipher.reset();
-  expected.encryption_group_cipher.reset();
+  wlccw::test::drop_members_cut_off_without_statistics(expected);
   EXPECT_TRUE(same_record(back, expected));
 }
 

@@ -36,4 +36,21 @@ make_statistic(std::int32_t actual_rate, std::optional<std::string> rate,
   return statistic;
 }
 
+/// Empties the members that a record without statistics does not carry in its IPC form:
+/// authentication states and uptimes, multi-link data and ciphers.
+inline void drop_members_cut_off_without_statistics(APClientData& record) {
+  record.eap_method.reset();
+  record.mac_auth_status.reset();
+  record.portal_auth_status.reset();
+  record.wlan_auth_status.reset();
+  record.wlan_auth_method.reset();
+  record.auth_algorithm.reset();
+  record.wlan_auth_uptime.reset();
+  record.mac_auth_uptime.reset();
+  record.portal_auth_uptime.reset();
+  record.mlo.reset();
+  record.encryption_cipher.reset();
+  record.encryption_group_cipher.reset();
+}
+
 } // namespace wlccw::test
