@@ -5,6 +5,7 @@
 #include <wlccw/common/errors.hpp>
 #include <wlccw/common/html.hpp>
 
+#include "detail/html.hpp"
 #include "detail/modulation.hpp"
 
 #include <cstdio>
@@ -111,9 +112,12 @@ APClientData APClientData::from_netconf_json(lcw_data_t* client) {
 
   data.ip = cfg_get_param(client, "ip-addr");
   data.vlan_id = cfg_get_uint32_param_opt(client, "vlan-id");
-  data.hostname = external_data::ap::decode_html_safe_opt(cfg_get_param_opt(client, "hostname"));
-  data.username = external_data::ap::decode_html_safe_opt(cfg_get_param_opt(client, "username"));
-  data.domain = external_data::ap::decode_html_safe_opt(cfg_get_param_opt(client, "domain"));
+  data.hostname = cfg_get_param_opt(client, "hostname");
+  wlccw::detail::decode_html_safe_in_place(data.hostname);
+  data.username = cfg_get_param_opt(client, "username");
+  wlccw::detail::decode_html_safe_in_place(data.username);
+  data.domain = cfg_get_param_opt(client, "domain");
+  wlccw::detail::decode_html_safe_in_place(data.domain);
   data.frequency = cfg_get_uint32_param_opt(client, "frequency");
   data.channel = cfg_get_uint32_param_opt(client, "channel");
   data.uptime = uptime_from_netconf(cfg_get_param(client, "uptime"));

@@ -16,6 +16,54 @@
 #include <utility>
 #include <vector>
 
+namespace {
+
+// The record has no move operations (a moved-from record would lose its identity), yet the list
+// takes records that are thrown away right after: an import's result. Their facts are moved over
+// one by one and the identity (mac, interface, ssid) is copied, so the source stays a valid
+// record. The member list below must name every member of the record; the size check stops a
+// build on the platform the library ships for when a member is added and not named here.
+void take_facts(APClientData& to, APClientData& from) {
+#if defined(__x86_64__) && defined(__GLIBCXX__)
+  static_assert(sizeof(APClientData) == 1048, "APClientData changed: update take_facts");
+#endif
+  to.mac = from.mac;
+  to.interface = from.interface;
+  to.ssid = from.ssid;
+  to.ip = from.ip;
+  to.band = from.band;
+  to.vlan_id = from.vlan_id;
+  to.hostname = std::move(from.hostname);
+  to.username = std::move(from.username);
+  to.domain = std::move(from.domain);
+  to.ap_hostname = std::move(from.ap_hostname);
+  to.ap_location = std::move(from.ap_location);
+  to.uptime = from.uptime;
+  to.frequency = from.frequency;
+  to.channel = from.channel;
+  to.rssi = std::move(from.rssi);
+  to.snr = std::move(from.snr);
+  to.authorized = from.authorized;
+  to.wireless_mode = from.wireless_mode;
+  to.link_quality = std::move(from.link_quality);
+  to.link_quality_common = std::move(from.link_quality_common);
+  to.statistics = std::move(from.statistics);
+  to.mlo = std::move(from.mlo);
+  to.wlan_auth_uptime = from.wlan_auth_uptime;
+  to.mac_auth_uptime = from.mac_auth_uptime;
+  to.portal_auth_uptime = from.portal_auth_uptime;
+  to.eap_method = from.eap_method;
+  to.mac_auth_status = from.mac_auth_status;
+  to.portal_auth_status = from.portal_auth_status;
+  to.wlan_auth_status = from.wlan_auth_status;
+  to.wlan_auth_method = from.wlan_auth_method;
+  to.auth_algorithm = from.auth_algorithm;
+  to.encryption_cipher = std::move(from.encryption_cipher);
+  to.encryption_group_cipher = std::move(from.encryption_group_cipher);
+}
+
+} // namespace
+
 int NcIpcClientList::add_or_update(APClientData&& client) {
   auto entry = interfaces.find(client.interface);
   if (entry == interfaces.end()) {
@@ -28,10 +76,14 @@ int NcIpcClientList::add_or_update(APClientData&& client) {
   int result = 0;
   auto const present = clients.find(client.mac);
   if (present != clients.end()) {
-    present->second = client; // replaced whole: callers merge beforehand if they want to
+    take_facts(present->second, client); // replaced whole: callers merge beforehand if they want to
     result = 2;
   } else {
-    clients.emplace(client.mac, client);
+    // The new entry starts as a copy of an empty record (short texts, nothing on the heap) and
+    // takes everything from the given one, its identity as it is.
+    static APClientData const blank(MacAddr::from_str("02:00:00:00:00:00"), "-", "-");
+    APClientData& stored = clients.emplace(client.mac, blank).first->second;
+    take_facts(stored, client);
     result = 1;
   }
   recount();

@@ -1,6 +1,7 @@
 #include <wlccw/common/html.hpp>
 
 #include "detail/hex.hpp"
+#include "detail/html.hpp"
 
 #include <string>
 #include <string_view>
@@ -64,6 +65,18 @@ std::string replace_control_characters(std::string&& text) {
 }
 
 } // namespace
+
+void decode_html_safe_in_place(std::optional<std::string>& text) {
+  if (!text) {
+    return;
+  }
+  if (text->find('&') == std::string::npos) {
+    *text = replace_control_characters(std::move(*text));
+  } else {
+    *text = replace_control_characters(decode_html_bytes(*text));
+  }
+}
+
 } // namespace wlccw::detail
 
 namespace external_data::ap {

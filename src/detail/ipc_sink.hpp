@@ -107,10 +107,25 @@ private:
 class JsonTextWriter {
 public:
   /// expected_size: about how long the text will be, so that the buffer seldom has to grow.
-  explicit JsonTextWriter(std::size_t expected_size = 1024) { grow(expected_size); }
+  explicit JsonTextWriter(std::size_t expected_size = 1024) {
+    SpareBuffer& spare = spare_buffer();
+    data_ = std::exchange(spare.data, nullptr);
+    capacity_ = std::exchange(spare.capacity, 0);
+    if (capacity_ < expected_size) {
+      grow(expected_size);
+    }
+  }
   JsonTextWriter(JsonTextWriter const&) = delete;
   JsonTextWriter& operator=(JsonTextWriter const&) = delete;
-  ~JsonTextWriter() { std::free(data_); }
+  ~JsonTextWriter() {
+    SpareBuffer& spare = spare_buffer();
+    if (spare.data == nullptr && capacity_ <= SpareBuffer::kept_limit) {
+      spare.data = data_;
+      spare.capacity = capacity_;
+    } else {
+      std::free(data_);
+    }
+  }
 
   char* room(std::size_t n) {
     if (capacity_ - pos_ < n) {
@@ -157,6 +172,24 @@ private:
     char close;
     bool empty;
   };
+
+  // The buffer of the writer that ended last on this thread, kept for the next one. A client
+  // list's text is a few hundred kilobytes; a fresh buffer of that size comes straight from the
+  // system and costs a page fault every few kilobytes on every write, which a daemon polling its
+  // APs would pay on every poll. A buffer beyond kept_limit is given back instead.
+  struct SpareBuffer {
+    static constexpr std::size_t kept_limit = std::size_t{4} << 20U;
+    char* data = nullptr;
+    std::size_t capacity = 0;
+    SpareBuffer() = default;
+    SpareBuffer(SpareBuffer const&) = delete;
+    SpareBuffer& operator=(SpareBuffer const&) = delete;
+    ~SpareBuffer() { std::free(data); }
+  };
+  static SpareBuffer& spare_buffer() noexcept {
+    thread_local SpareBuffer spare;
+    return spare;
+  }
 
   // The buffer grows without being cleared: every byte is written before it is read.
   void grow(std::size_t capacity) {

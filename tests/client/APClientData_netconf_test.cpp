@@ -360,6 +360,25 @@ TEST(APClientDataNetconf, HostnameUsernameDomainAreDecodedOrEmpty) {
   EXPECT_FALSE(missing.domain);
 }
 
+TEST(APClientDataNetconf, ControlBytesOfHostnameUsernameDomainBecomeDotsWithOrWithoutEscapes) {
+  // Texts without any "&" and texts with escapes take different ways through the decoder.
+  APClientData const plain = read_client_with(
+      R"("hostname":"a\u0001b-long-enough-for-the-heap","username":"tab\there","domain":"x\u007f")");
+  EXPECT_EQ(plain.hostname, "a.b-long-enough-for-the-heap");
+  EXPECT_EQ(plain.username, "tab.here");
+  EXPECT_EQ(plain.domain, "x.");
+
+  APClientData const escaped = read_client_with(
+      R"("hostname":"a\u0001b&#x0a;c","username":"&#x41;\u001f","domain":"&amp;\u0002")");
+  EXPECT_EQ(escaped.hostname, "a.b.c");
+  EXPECT_EQ(escaped.username, "A.");
+  EXPECT_EQ(escaped.domain, "&amp;.");
+
+  APClientData const untouched =
+      read_client_with(R"("hostname":"caf\u00e9-\u00fc-host-name","username":"u","domain":"d")");
+  EXPECT_EQ(untouched.hostname, "caf\xc3\xa9-\xc3\xbc-host-name");
+}
+
 TEST(APClientDataNetconf, FrequencyAndChannelAreUnsigned32) {
   APClientData const client = read_client_with(R"("frequency":5745,"channel":"149")");
   EXPECT_EQ(client.frequency, 5745U);

@@ -2,6 +2,8 @@
 // and getter, statistics and record equality.
 #include <wlccw/client/APClientData.hpp>
 
+#include "client_support.hpp"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -20,6 +22,7 @@
 
 namespace {
 
+using wlccw::test::mac_of;
 using Metrics = AntennaSignalMetrics<std::greater<int>, std::less<int>>;
 using Statistics = APClientData::Statistics;
 using Statistic = APClientData::Statistics::Statistic;
@@ -109,12 +112,6 @@ Metrics const ordered_metrics{.values = {1}, .reported = 2, .floor = 3};
 
 // ---------------------------------------------------------------------------------------------
 // Helpers.
-
-MacAddr mac_of(char const* text) {
-  MacAddr const mac = MacAddr::from_str(text);
-  EXPECT_TRUE(mac.valid) << text;
-  return mac;
-}
 
 IpAddr ip_of(char const* text) {
   IpAddr ip;

@@ -18,14 +18,10 @@
 namespace {
 
 using wlccw::cfg::Tree;
+using wlccw::test::full_record;
+using wlccw::test::mac_of;
 using wlccw::test::parse_json;
 using wlccw::test::read_client_sample;
-
-MacAddr mac_of(char const* text) {
-  MacAddr const mac = MacAddr::from_str(text);
-  EXPECT_TRUE(mac.valid) << text;
-  return mac;
-}
 
 APClientData record(char const* mac, std::string const& interface, std::string const& ssid) {
   return APClientData(mac_of(mac), interface, ssid);
@@ -106,6 +102,62 @@ TEST(NcIpcClientList, ReplacementTakesTheNewRecordWholeWithoutMerging) {
   EXPECT_FALSE(stored.channel.has_value());
   EXPECT_TRUE(stored.rssi.values.empty());
   EXPECT_EQ(stored.uptime, 42U);
+}
+
+// The list takes the facts of the record it is given without copying them; every member must
+// arrive, including those equality leaves out.
+void expect_same_record(APClientData const& stored, APClientData const& expected) {
+  EXPECT_EQ(stored, expected);
+  EXPECT_EQ(stored.mac.valid, expected.mac.valid);
+  EXPECT_EQ(stored.ip.valid, expected.ip.valid);
+  EXPECT_EQ(stored.frequency, expected.frequency);
+  EXPECT_EQ(stored.channel, expected.channel);
+  EXPECT_EQ(stored.rssi.floor, expected.rssi.floor);
+  EXPECT_EQ(stored.snr.floor, expected.snr.floor);
+  EXPECT_EQ(stored.encryption_cipher, expected.encryption_cipher);
+  EXPECT_EQ(stored.encryption_group_cipher, expected.encryption_group_cipher);
+  EXPECT_EQ(stored.to_json_str(), expected.to_json_str());
+}
+
+TEST(NcIpcClientList, NewClientIsStoredWithEveryMember) {
+  NcIpcClientList list;
+  APClientData given = full_record();
+  APClientData const expected = given;
+  ASSERT_EQ(list.add_or_update(std::move(given)), 1);
+  expect_same_record(client_at(list, "wlan1-2", "0A:1B:2C:3D:4E:5F"), expected);
+}
+
+TEST(NcIpcClientList, ReplacedClientTakesEveryMember) {
+  NcIpcClientList list;
+  ASSERT_EQ(list.add_or_update(record("0A:1B:2C:3D:4E:5F", "wlan1-2", "Office")), 1);
+  APClientData given = full_record();
+  APClientData const expected = given;
+  ASSERT_EQ(list.add_or_update(std::move(given)), 2);
+  expect_same_record(client_at(list, "wlan1-2", "0A:1B:2C:3D:4E:5F"), expected);
+}
+
+TEST(NcIpcClientList, RecordGivenKeepsItsIdentity) {
+  NcIpcClientList list;
+  APClientData given = full_record();
+  list.add_or_update(std::move(given));
+  EXPECT_EQ(given.mac, mac_of("0A:1B:2C:3D:4E:5F"));
+  EXPECT_TRUE(given.mac.valid);
+  EXPECT_EQ(given.interface, "wlan1-2");
+  EXPECT_EQ(given.ssid, "Office \"A\"");
+}
+
+TEST(NcIpcClientList, RecordWithIdentityChangedAfterConstructionIsStoredAsItIs) {
+  // The members are public: a caller may empty the SSID after construction. The list stores
+  // what it is given and does not check the record again.
+  NcIpcClientList list;
+  APClientData given = record("00:11:22:33:44:55", "wlan0", "Guest");
+  given.ssid.clear();
+  given.mac.valid = false;
+  APClientData const expected = given;
+  ASSERT_EQ(list.add_or_update(std::move(given)), 1);
+  APClientData const& stored = client_at(list, "wlan0", "00:11:22:33:44:55");
+  expect_same_record(stored, expected);
+  EXPECT_EQ(list.interfaces.at("wlan0").ssid, "");
 }
 
 TEST(NcIpcClientList, NewInterfaceTakesTheSsidOfItsFirstClient) {
