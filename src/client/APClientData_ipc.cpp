@@ -3,6 +3,7 @@
 #include <wlccw/client/APClientData.hpp>
 
 #include "detail/client_ipc.hpp"
+#include "detail/tree_extensions.hpp"
 
 #include <wlccw/cfg/owned.hpp>
 #include <wlccw/common/errors.hpp>
@@ -260,19 +261,19 @@ void APClientData::to_json(lcw_data_t* object) const {
 }
 
 std::string APClientData::to_json_str() const {
-#if WLCCW_BUNDLED_TREE
-  wlccw::detail::JsonTextWriter text;
-  wlccw::detail::TextSink root(text);
-  wlccw::detail::write_client_ipc(root, *this);
-  return text.take();
-#else
+  if (wlccw::detail::bundled_tree()) {
+    wlccw::detail::JsonTextWriter text;
+    wlccw::detail::TextSink root(text);
+    wlccw::detail::write_client_ipc(root, *this);
+    return text.take();
+  }
+  // Another backend: the text is that backend's serialisation of the tree.
   wlccw::cfg::Tree const root = wlccw::cfg::make_object();
   if (!root) {
     return {};
   }
   to_json(root.get());
   return wlccw::cfg::compact(root.get());
-#endif
 }
 
 APClientData APClientData::from_json(lcw_data_t* object) {

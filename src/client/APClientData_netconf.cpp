@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -86,7 +87,10 @@ std::optional<std::uint32_t> uptime_from_netconf(char const* text) {
 /// accumulator, then takes the overall reading name as the reported value.
 void read_signal(lcw_data_t const* client, char const* name,
                  AntennaSignalMetrics<std::greater<int>, std::less<int>>& metric) {
-  for (int const value : radio::signal::parse_numbered_parameters_from_netconf(client, name)) {
+  std::vector<int> const values =
+      radio::signal::parse_numbered_parameters_from_netconf(client, name);
+  metric.values.reserve(metric.values.size() + values.size()); // one allocation for all readings
+  for (int const value : values) {
     metric.add(value);
   }
   metric.reported = cfg_get_int32_param_opt(client, name);

@@ -3,6 +3,7 @@
 #include <wlccw/client/NcIpcClientList.hpp>
 
 #include "detail/client_ipc.hpp"
+#include "detail/tree_extensions.hpp"
 
 #include <wlccw/cfg/owned.hpp>
 
@@ -190,7 +191,6 @@ template <typename Sink> void write_list(Sink& root, NcIpcClientList const& list
   }
 }
 
-#if WLCCW_BUNDLED_TREE
 /// Whether every interface writes under a name of its own. A name holding a NUL is cut there by
 /// the tree interface, and two names cut alike share one object; only the tree can merge them.
 bool interface_names_are_distinct(NcIpcClientList const& list) {
@@ -198,7 +198,6 @@ bool interface_names_are_distinct(NcIpcClientList const& list) {
     return entry.first.find('\0') != std::string::npos;
   });
 }
-#endif
 
 } // namespace
 
@@ -244,13 +243,13 @@ NcIpcClientList NcIpcClientList::from_ipc_json(lcw_data_t* root) {
   return list;
 }
 
-#if WLCCW_BUNDLED_TREE
 namespace {
 
 /// Writes into text what the bundled backend would serialise from to_ipc_json, without the tree;
-/// false, writing nothing, for a list whose interface names only the tree can merge.
+/// false, writing nothing, for a list whose interface names only the tree can merge and when the
+/// tree interface in use is another backend's.
 bool write_text(wlccw::detail::JsonTextWriter& text, NcIpcClientList const& list) {
-  if (!interface_names_are_distinct(list)) {
+  if (!wlccw::detail::bundled_tree() || !interface_names_are_distinct(list)) {
     return false;
   }
   wlccw::detail::TextSink root(text);
@@ -264,14 +263,11 @@ std::size_t expected_text_size(NcIpcClientList const& list) {
 }
 
 } // namespace
-#endif
 
 std::string NcIpcClientList::to_str() const {
-#if WLCCW_BUNDLED_TREE
   if (wlccw::detail::JsonTextWriter text(expected_text_size(*this)); write_text(text, *this)) {
     return text.take();
   }
-#endif
   wlccw::cfg::Tree const root(to_ipc_json());
   if (!root) {
     return {};
@@ -280,11 +276,9 @@ std::string NcIpcClientList::to_str() const {
 }
 
 std::size_t NcIpcClientList::get_hash() const {
-#if WLCCW_BUNDLED_TREE
   // The hash of a string is the hash of its characters: the text need not become a string.
   if (wlccw::detail::JsonTextWriter text(expected_text_size(*this)); write_text(text, *this)) {
     return std::hash<std::string_view>{}(text.view());
   }
-#endif
   return std::hash<std::string>{}(to_str());
 }

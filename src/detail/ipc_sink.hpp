@@ -9,9 +9,9 @@
 //   where the writer puts each name once into a fresh object, which the record writers do when
 //   they fill a new root; the _or_existing variants then always make a new member.
 //
-// The library writes its texts through a TextSink only when it is built with the bundled backend
-// (WLCCW_BUNDLED_TREE): a host's own backend serialises in its own way, and then every text is
-// the host's serialisation of the tree.
+// The library writes its texts through a TextSink only when the bundled backend is the tree
+// interface in use (bundled_tree() in detail/tree_extensions.hpp): a host's own backend serialises
+// in its own way, and then every text is the host's serialisation of the tree.
 #pragma once
 
 #include "detail/json_text.hpp"
@@ -178,7 +178,7 @@ private:
   // system and costs a page fault every few kilobytes on every write, which a daemon polling its
   // APs would pay on every poll. A buffer beyond kept_limit is given back instead.
   struct SpareBuffer {
-    static constexpr std::size_t kept_limit = std::size_t{4} << 20U;
+    static constexpr std::size_t kept_limit = std::size_t{8} << 20U;
     char* data = nullptr;
     std::size_t capacity = 0;
     SpareBuffer() = default;
