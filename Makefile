@@ -1,8 +1,8 @@
 # Quick start:  make demo  |  make test
 # Every target installs the Debian packages it needs first (scripts/install-deps).
 
-.PHONY: all deps build demo test test-release test-asan test-tsan test-fuzz consumer bench fuzz memcheck \
-	format format-check clean
+.PHONY: all deps build demo test test-release test-asan test-tsan test-fuzz package package-check docs \
+	bench fuzz memcheck format format-check clean
 
 all: build
 
@@ -31,10 +31,26 @@ test-tsan: deps
 	# a mapping the kernel placed where it expects its shadow.
 	setarch "$$(uname -m)" -R ctest --preset tsan
 
-consumer: build
-	scripts/check-consumer build/release
+# The Debian packages libwlccw0, libwlccw-dev and wlccw-tools of the Release build, in
+# build/release/packages/ (cmake/packaging.cmake).
+package: build
+	rm -rf build/release/packages
+	cd build/release && cpack -G DEB
 
-test: test-release test-asan test-tsan test-fuzz consumer format-check
+# The packages unpacked into a scratch root: every example under examples/ built against them and
+# run, the consumer example built through pkg-config too, and the packaged tool run.
+package-check: package
+	scripts/check-packages build/release/packages
+
+# The API reference of the public headers in build/docs/html (docs/Doxyfile); any Doxygen warning
+# (an undocumented public name included) fails. The configure step generates <wlccw/version.hpp>.
+docs: deps
+	cmake --preset release >/dev/null
+	WLCCW_VERSION="$$(sed -n 's/^project(wlccw VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)" \
+	  WLCCW_GENERATED_INCLUDE=build/release/include doxygen docs/Doxyfile
+	@echo "docs: build/docs/html/index.html"
+
+test: test-release test-asan test-tsan test-fuzz package-check docs format-check
 
 # Release benchmarks. The poll runs three times, its benchmarks interleaved in random order so that
 # a slow spell of the machine does not fall on one of them; its report and the chart of time per client

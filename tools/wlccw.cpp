@@ -92,7 +92,8 @@ std::string usage_failure(CLI::App const* /*app*/, CLI::Error const& e) {
 int main(int argc, char** argv) {
   CLI::App tool("Inspect and convert the messages of the wireless LAN controller's daemons",
                 "wlccw");
-  tool.set_version_flag("--version", WLCCW_VERSION_STRING, "Print the version and exit");
+  tool.set_version_flag("--version", "wlccw " WLCCW_VERSION_STRING,
+                        "Print \"wlccw VERSION\" and exit");
   tool.failure_message(usage_failure); // set before the subcommands, which inherit it
   tool.require_subcommand(1);
 

@@ -1,4 +1,7 @@
-// Everything the library offers, in one include.
+/// \file
+/// Everything the library offers, in one include: the tree interface and its helpers, the
+/// foundation types, every enumeration, the client, monitoring and service-message records, the
+/// process services and the version.
 #pragma once
 
 #include <wlccw/export.hpp>

@@ -16,7 +16,7 @@ bool for_each_array_element(char const* text, char const* path,
   }
   if (wlccw::detail::bundled_tree()) {
     using Fn = std::function<void(lcw_data_t&)>;
-    return cfg_parse_array_elements(
+    return wlccw::detail::parse_array_elements(
         text, path,
         [](lcw_data_t* element, void* ctx) { (*static_cast<Fn const*>(ctx))(*element); },
         const_cast<Fn*>(&fn));

@@ -36,4 +36,9 @@ bool bundled_tree() noexcept {
   return bundled;
 }
 
+bool parse_array_elements(char const* text, char const* path,
+                          void (*fn)(lcw_data_t* element, void* ctx), void* ctx) {
+  return cfg_parse_array_elements(text, path, fn, ctx);
+}
+
 } // namespace wlccw::detail

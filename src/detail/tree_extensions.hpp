@@ -26,4 +26,10 @@ namespace wlccw::detail {
 /// them and call cfg_parse_array_elements. Decided once per process.
 bool bundled_tree() noexcept;
 
+/// cfg_parse_array_elements of the bundled backend; call it only when bundled_tree() is true. The
+/// library reaches the extension through this function alone, so that the one reference to it,
+/// in bundled_tree.cpp, is weak and a program without the bundled backend still links and loads.
+bool parse_array_elements(char const* text, char const* path,
+                          void (*fn)(lcw_data_t* element, void* ctx), void* ctx);
+
 } // namespace wlccw::detail

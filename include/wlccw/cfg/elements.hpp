@@ -1,5 +1,6 @@
-// Reading the elements of one array of a large JSON text, such as the clients of an AP's reply,
-// without holding the whole text's tree.
+/// \file
+/// Reading the elements of one array of a large JSON text, such as the clients of an AP's reply,
+/// without holding the whole text's tree.
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -25,7 +26,7 @@ namespace wlccw::cfg {
 /// fn is not called for an invalid text.
 ///
 /// An exception from fn stops the reading and propagates; nothing leaks. Throws
-/// std::bad_function_call for an empty fn.
+/// std::bad_function_call for an empty fn, before anything else is looked at.
 WLCCW_EXPORT bool for_each_array_element(char const* text, char const* path,
                                          std::function<void(lcw_data_t&)> const& fn);
 

@@ -1,5 +1,6 @@
-// The record of one wireless client as one access point reports it: identity, band and channel,
-// per-antenna signal, authentication state, traffic counters and multi-link data.
+/// \file
+/// The record of one wireless client as one access point reports it: identity, band and channel,
+/// per-antenna signal, authentication state, traffic counters and multi-link data.
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -101,8 +102,8 @@ public:
   std::optional<std::uint32_t> frequency;
   /// Channel number.
   std::optional<std::uint32_t> channel;
-  /// Per-antenna RSSI in dBm; floor -127. A reading below the floor is stored as the floor; the
-  /// weakest antenna's reading represents the client.
+  /// Per-antenna RSSI in dBm; floor -127. A reading below the floor is stored as the floor; an
+  /// overall value the AP reports represents the client, else the weakest antenna's reading.
   AntennaSignalMetrics<std::greater<int>, std::less<int>> rssi{{}, std::nullopt, -127};
   /// Per-antenna SNR in dB; floor 0, stored and selected as for rssi.
   AntennaSignalMetrics<std::greater<int>, std::less<int>> snr{{}, std::nullopt, 0};
@@ -183,43 +184,61 @@ public:
 
   // ---- NETCONF import ----
 
-  /// The record of one client object of an AP's NETCONF monitoring reply. Throws
-  /// wlccw::InvalidJsonPointer for a null client, wlccw::EmptyJson for an empty one, and the
-  /// constructor's std::invalid_argument for a bad "hw-addr", a missing "interface" or an empty
-  /// decoded "ssid"; every other missing or malformed member leaves its field empty.
+  /// The record of one client object of an AP's NETCONF monitoring reply. Texts the AP writes
+  /// freely (ssid, hostname, username, domain) are cleaned with
+  /// external_data::ap::decode_html_safe. band, ap_hostname and ap_location stay empty: they are
+  /// the controller's to fill. Throws wlccw::InvalidJsonPointer for a null client, wlccw::EmptyJson
+  /// for an empty one (or a node that is no object or array), and the constructor's
+  /// std::invalid_argument for a bad "hw-addr", a missing or empty "interface" or an empty decoded
+  /// "ssid"; every other missing or malformed member leaves its field empty.
   static APClientData from_netconf_json(lcw_data_t* client);
 
   // ---- IPC form ----
 
-  /// Writes the IPC form into an object; nothing for a null object. A record without statistics
-  /// writes no authentication, multi-link or cipher keys.
+  /// Writes the IPC form into an object; nothing for a null object. "ip" is written only when
+  /// valid, "band" only for one of the three bands, the signal lists only when there are readings;
+  /// a record without statistics writes no authentication, multi-link or cipher keys. Throws
+  /// std::invalid_argument "APClientData: band_to_str unknown band" when a multi-link link holds a
+  /// band outside the three, which only a value forced in by a cast can be.
   void to_json(lcw_data_t* object) const;
-  /// The compact text of the IPC form.
+  /// The compact text of the IPC form that to_json writes into an empty object; throws like it.
   std::string to_json_str() const;
   /// The record of an IPC object. Throws wlccw::InvalidJsonPointer for a null object,
-  /// wlccw::EmptyJson for an empty one and the constructor's std::invalid_argument for a bad
-  /// identity; every other missing or malformed key leaves its field empty.
+  /// wlccw::EmptyJson for an empty one (or a node that is no object or array) and the
+  /// constructor's std::invalid_argument for a bad identity ("mac", "interface", "ssid"); every
+  /// other missing or malformed key leaves its field empty, and multi-link data with any bad link
+  /// is left out whole.
   static APClientData from_json(lcw_data_t* object);
-  /// from_json of a parsed IPC text; a text that is not JSON throws wlccw::InvalidJsonPointer.
+  /// from_json of a parsed IPC text; a text that is not JSON (the empty text included) throws
+  /// wlccw::InvalidJsonPointer, "{}" wlccw::EmptyJson.
   static APClientData from_json_str(std::string const& text);
-  /// Takes the changeable facts of a newer record of the same client, empty ones included; keeps
-  /// this record's identity, frequency, channel and ciphers.
+  /// Takes the changeable facts of a newer record of the same client, empty ones included (every
+  /// member but the ones kept is assigned from other); keeps this record's identity (mac,
+  /// interface, ssid), frequency, channel and ciphers.
   void fill_optional_data(APClientData const& other);
-  /// A one-line summary of how the client authenticated ("WPA2-Enterprise/Authenticated", ...);
-  /// empty when the WLAN authentication is missing or failed, or the combination shows nothing.
+  /// A one-line summary of how the client authenticated: the WLAN method's NETCONF name (empty
+  /// without a method) followed by "/Pending" while the WLAN authentication is pending, or, once it
+  /// is authenticated, by what the MAC and portal states show ("/Authenticated" when neither is
+  /// required, "+MAB/Authenticated-by-MAB", "+MAB+Portal/Pending-portal", ...). Empty when the WLAN
+  /// state is missing or unauthenticated, when an authenticated client lacks its MAC or portal
+  /// state, and for the combinations that show nothing. Never throws on content.
   std::optional<std::string> get_auth_description() const;
 };
 
-/// Reads both directions of a client's statistics with reader: empty when both are empty;
-/// otherwise a direction the reader did not give is a default (zeroed) Statistic. Throws
-/// std::bad_function_call for an empty reader.
+/// Reads both directions of a client's statistics with reader, called for "tx" then "rx": empty
+/// when both are empty; otherwise a direction the reader did not give is a default (zeroed)
+/// Statistic. Throws std::bad_function_call for an empty reader; an exception from reader
+/// propagates.
 WLCCW_EXPORT std::optional<APClientData::Statistics>
 get_tx_rx_statistics(lcw_data_t& node,
                      std::function<std::optional<APClientData::Statistics::Statistic>(
                          lcw_data_t&, std::string const&)> const& reader);
 
-/// One direction ("tx" or "rx") of a NETCONF client object's statistics: rate texts, bandwidth and
-/// actual rate of the client object, byte and packet counters of "/statistics/<direction>"; empty
-/// when none of them is there.
+/// One direction ("tx" or "rx") of a NETCONF client object's statistics, shown here for "tx": the
+/// rate text ("tx-rate") with the modulation read from it and the numeric rate ("tx-rate-numeric",
+/// else read from the rate text), the bandwidth ("tx-bw") and the actual rate ("actual-tx-rate")
+/// of the client object, and the byte and packet counters of the object at "/statistics/tx";
+/// empty when none of the rate text, bandwidth, actual rate and counter object is there. Missing
+/// or malformed counters read as 0.
 WLCCW_EXPORT std::optional<APClientData::Statistics::Statistic>
 get_statistic_from_netconf(lcw_data_t& node, std::string const& direction);

@@ -1,11 +1,14 @@
-// A signal metric measured per antenna (RSSI, SNR): the readings of every antenna, an overall value
-// the source may report instead, and the floor below which no reading is stored.
+/// \file
+/// A signal metric measured per antenna (RSSI, SNR): the readings of every antenna, an overall
+/// value the source may report instead, and the floor below which no reading is stored.
 #pragma once
 
 #include <algorithm>
 #include <optional>
 #include <vector>
 
+/// The readings of one signal metric over a client's antennas.
+///
 /// Store compares a new reading with the floor (std::greater: the floor wins when it is greater);
 /// Select picks the representative reading (std::less: the smallest, i.e. the weakest antenna).
 template <typename Store, typename Select> class AntennaSignalMetrics {
@@ -17,7 +20,7 @@ public:
   /// The lowest storable reading, and the value when nothing is known.
   int floor = 0;
 
-  /// Appends a reading, raised to the floor if it lies below it.
+  /// Appends a reading, raised to the floor if it lies below it (with Store = std::greater).
   void add(int reading) { values.push_back(Store{}(floor, reading) ? floor : reading); }
 
   /// The reported value if there is one; otherwise the selected reading (the first of equal
@@ -32,6 +35,7 @@ public:
     return *std::min_element(values.begin(), values.end(), Select{});
   }
 
+  /// Equal when the readings (in order), the reported values and the floors are equal.
   friend bool operator==(AntennaSignalMetrics const& a, AntennaSignalMetrics const& b) {
     return a.values == b.values && a.reported == b.reported && a.floor == b.floor;
   }

@@ -1,5 +1,6 @@
-// Which clients count as authenticated: the predicates that decide it from a client record's four
-// authentication states, and the list of such clients as it travels over IPC.
+/// \file
+/// Which clients count as authenticated: the predicates that decide it from a client record's four
+/// authentication states, and the list of such clients as it travels over IPC.
 #pragma once
 
 #include <wlccw/client/APClientData.hpp>
@@ -15,8 +16,11 @@ class WLCCW_EXPORT AuthenticatedClients {
 public:
   /// One authenticated client: its address, its network and the user name it registered with.
   struct Client {
+    /// The client's MAC address.
     MacAddr mac;
+    /// The SSID of the client's network.
     std::string ssid;
+    /// The user name the client registered with; empty when none is known.
     std::optional<std::string> username;
 
     /// Member by member; MAC addresses compare by their six octets.
@@ -34,7 +38,8 @@ public:
   /// Whether the client goes through portal or MAC (MAB) authentication: both the MAC and the
   /// portal states are set, and either the portal state is authenticated, reauthenticate,
   /// unauthenticated, pending or expired, or it is not-required while the MAC state is
-  /// authenticated, unauthenticated or pending.
+  /// authenticated, unauthenticated or pending. The predicates never throw; a state forced in by a
+  /// cast counts by its number.
   static bool is_use_portal_or_mab(APClientData const& client);
   /// A WLAN method is set and the WLAN state is authenticated.
   static bool is_auth_by_wlan(APClientData const& client);
@@ -46,7 +51,7 @@ public:
   /// for any other client: is_auth_by_wlan.
   static bool is_auth(APClientData const& client);
 
-  /// {"authenticated-clients":[{"mac":..,"ssid":..,"username":..},..]}, compact; "username" is
+  /// `{"authenticated-clients":[{"mac":..,"ssid":..,"username":..},..]}`, compact; "username" is
   /// left out for a client without one, "mac" is written whatever its validity flag. "" when the
   /// root or the array cannot be made; a client whose object cannot be appended is left out.
   std::string to_json() const;
@@ -55,5 +60,6 @@ public:
   /// address, a missing "ssid" "", a missing "username" no name. Never throws on bad text.
   static AuthenticatedClients from_json(std::string const& text);
 
+  /// Equal when the client lists are equal, in order.
   friend bool operator==(AuthenticatedClients const&, AuthenticatedClients const&) = default;
 };

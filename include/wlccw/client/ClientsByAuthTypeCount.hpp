@@ -1,5 +1,6 @@
-// How many clients there are per authentication type: WLAN, MAC (MAB) and portal with MAB, as the
-// controller shows and exchanges them over IPC.
+/// \file
+/// How many clients there are per authentication type: WLAN, MAC (MAB) and portal with MAB, as the
+/// controller shows and exchanges them over IPC.
 #pragma once
 
 #include <wlccw/client/APClientData.hpp>
@@ -51,13 +52,16 @@ public:
   /// set.
   void fill_clients_count_by_portal_mab(APClientData const& client);
 
-  /// {"clients-by-auth-type":{},"wlan":{..},"mab":{..},"portal-mab":{..}}, compact, every counter
-  /// written; "" when the root or one of its four objects cannot be made.
+  /// `{"clients-by-auth-type":{},"wlan":{..},"mab":{..},"portal-mab":{..}}`, compact, every
+  /// counter written as a number; "" when the root or one of its four objects cannot be made.
   std::string to_json() const;
   /// The counters of an IPC text; never null. Zero counters for text that is not JSON or has no
   /// "clients-by-auth-type"; otherwise the groups "wlan", "mab" and "portal-mab" are read in this
-  /// order up to the first one missing, which stays zero with every group after it.
+  /// order up to the first one missing, which stays zero with every group after it. A counter
+  /// missing from its group, or not a 32-bit unsigned integer, reads as 0. Never throws on bad
+  /// text.
   static std::shared_ptr<ClientsByAuthTypeCount> from_json(std::string const& text);
 
+  /// Equal when every counter is equal.
   friend bool operator==(ClientsByAuthTypeCount const&, ClientsByAuthTypeCount const&) = default;
 };

@@ -1,5 +1,6 @@
-// A 48-bit IEEE 802 MAC address: a validity flag and six octets, with a fixed lower-case text
-// form, a parser that never throws, a hash, an ordering and the Boost.JSON conversions.
+/// \file
+/// A 48-bit IEEE 802 MAC address: a validity flag and six octets, with a fixed lower-case text
+/// form, a parser that never throws, a hash, an ordering and the Boost.JSON conversions.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -29,34 +30,41 @@ public:
   /// hexadecimal digits (12 characters), either case. A null pointer or any other text gives the
   /// default value. Never throws, never allocates.
   static MacAddr from_str(char const* text) noexcept;
-  /// Parses exactly `length` characters of `text` by the same rules; no terminator is needed.
+  /// Parses exactly `length` characters of `text` by the same rules; no terminator is needed. A
+  /// null pointer or a length other than 17 or 12 gives the default value. Never throws.
   static MacAddr from_str(char const* text, unsigned long length) noexcept;
 
   /// Six pairs of lower-case hexadecimal digits joined by ":", whatever `valid` says.
   std::string str() const;
-  /// Writes the text form of str() and a terminating NUL into out, without allocating.
+  /// Writes the text form of str() and a terminating NUL into out, without allocating. Never
+  /// throws.
   void format(char (&out)[18]) const noexcept;
 
+  /// Equal when the six octets are equal; the validity flags are not compared.
   friend constexpr bool operator==(MacAddr const& a, MacAddr const& b) noexcept {
     return a.bytes == b.bytes;
   }
-  /// Lexicographic over the six octets.
+  /// Lexicographic over the six octets (the order of the numbers they form); the validity flags
+  /// are not compared.
   friend constexpr std::strong_ordering operator<=>(MacAddr const& a, MacAddr const& b) noexcept {
     return a.bytes <=> b.bytes;
   }
 };
 
-/// Stores the JSON string `mac.str()`.
+/// Boost.JSON conversion to a value: stores the JSON string `mac.str()`, whatever `valid` says.
 WLCCW_EXPORT void tag_invoke(boost::json::value_from_tag, boost::json::value& jv,
                              MacAddr const& mac);
-/// Reads a JSON string and parses it; a text that is no address gives the default value. A value
-/// that is not a JSON string throws Boost.JSON's conversion error (boost::system::system_error).
+/// Boost.JSON conversion from a value: reads a JSON string and parses it as MacAddr::from_str
+/// does; a text that is no address gives the default value. A value that is not a JSON string
+/// throws Boost.JSON's conversion error (boost::system::system_error).
 WLCCW_EXPORT MacAddr tag_invoke(boost::json::value_to_tag<MacAddr>, boost::json::value const& jv);
 
 namespace std {
 
-/// The six octets read as one 48-bit big-endian number (bytes[0] most significant); no mixing.
+/// Hashing of MacAddr for unordered containers.
 template <> struct hash<MacAddr> {
+  /// The six octets read as one 48-bit big-endian number (bytes[0] most significant), without
+  /// further mixing; the validity flag takes no part. Never throws.
   std::size_t operator()(MacAddr const& mac) const noexcept {
     std::uint64_t value = 0;
     for (unsigned char octet : mac.bytes) {

@@ -1,4 +1,5 @@
-// A timeout on the monotonic clock.
+/// \file
+/// A timeout on the monotonic clock.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -10,14 +11,15 @@
 /// not move it. Expired once the timeout has elapsed since the start; never without a timeout.
 class WLCCW_EXPORT Timer {
 public:
-  /// Sets the timeout and starts the timer now.
+  /// Sets the timeout and starts the timer now. A zero or negative timeout is expired at once.
   explicit Timer(std::chrono::milliseconds timeout_ms);
 
   /// Restarts the timer: the start becomes now; the timeout stays.
   void reset();
 
-  /// False without a timeout; otherwise whether the time since the start has reached the timeout
-  /// (a timer is expired exactly at its timeout).
+  /// False without a timeout; otherwise whether the time since the start, in whole milliseconds,
+  /// has reached the timeout (a timer is expired exactly at its timeout). Exact for any start and
+  /// timeout the public members may hold: nothing overflows. Never throws.
   [[nodiscard]] bool is_expired() const;
 
   /// When the timer was last (re)started.

@@ -1,4 +1,5 @@
-// Generic reading and writing of containers as JSON arrays over the tree interface.
+/// \file
+/// Generic reading and writing of containers as JSON arrays over the tree interface.
 #pragma once
 
 #include <wlccw/cfg/owned.hpp>
@@ -22,8 +23,11 @@ template <typename C, typename V> void container_add(C& container, V&& value) {
 } // namespace wlccw::detail
 
 /// Reads an array node into a container: an empty optional for a null node or a node that cannot
-/// be iterated; otherwise a container of every element that convert accepts (elements it rejects
-/// are skipped). Throws std::bad_function_call for an empty convert when there is an element.
+/// be iterated (not an array); otherwise a container of every element that convert accepts, in
+/// array order (elements it rejects are skipped, so an engaged empty container is possible). A
+/// sequence appends; a set or map inserts, keeping the first of equal keys. Throws
+/// std::bad_function_call for an empty convert when there is an element; an exception from
+/// convert propagates.
 template <typename C>
 std::optional<C> cfg_deserialize_container(
     lcw_data_t* node,
@@ -49,8 +53,9 @@ std::optional<C> cfg_deserialize_container(
   return result;
 }
 
-/// Parses text and reads its root array as cfg_deserialize_container does; an empty optional for
-/// text that is not JSON.
+/// Parses text and reads its root array as the node form of cfg_deserialize_container does; an
+/// empty optional for text that is not JSON (the empty text included) or whose root is not an
+/// array. Throws like the node form.
 template <typename C>
 std::optional<C> cfg_deserialize_container(
     std::string const& text,
@@ -63,9 +68,10 @@ std::optional<C> cfg_deserialize_container(
 }
 
 /// Appends one object per element of the container to an array node, in the container's
-/// iteration order, and lets fill write it. Nothing for a null array; an element whose object
-/// cannot be appended is skipped. Throws std::bad_function_call for an empty fill when there is an
-/// element.
+/// iteration order, and lets fill write it. Nothing for a null array (nothing thrown either, even
+/// for an empty fill); an element whose object cannot be appended (the node is not an array) is
+/// skipped. Throws std::bad_function_call for an empty fill when an element's object was
+/// appended; an exception from fill propagates.
 template <typename C>
 void cfg_fill_array_with_container(
     lcw_data_t* array, C const& container,
@@ -86,7 +92,8 @@ void cfg_fill_array_with_container(
 }
 
 /// The compact text of an array holding one object per element, as cfg_fill_array_with_container
-/// writes it: "[]" for an empty container.
+/// writes it: "[]" for an empty container, "" when no array can be made. Throws like
+/// cfg_fill_array_with_container; the array is released in any case.
 template <typename C>
 std::string cfg_serialize_container_to_array_compact(
     C const& container,

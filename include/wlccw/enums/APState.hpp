@@ -1,4 +1,5 @@
-// The state of an access point's management connection.
+/// \file
+/// The state of an access point's management connection.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -6,6 +7,8 @@
 #include <cstdint>
 #include <string_view>
 
+/// A state of an access point's management connection, from START to FINISH. UNKNOWN is what any
+/// other text reads as.
 enum class APState : std::int32_t {
   START,
   PRE_CONFIGURED,
@@ -28,5 +31,6 @@ enum class APState : std::int32_t {
 /// The state named by the text ("Start" ... "Finish", "UNKNOWN", exactly, up to the first NUL);
 /// UNKNOWN for any other text.
 WLCCW_EXPORT APState APStateFromStrX(std::string_view text);
-/// The name of the state; "UNKNOWN" for UNKNOWN and any value past it. Never null; static storage.
+/// The name of the state; "UNKNOWN" for UNKNOWN and any value outside the enumeration, negative
+/// ones included. Never null; static storage.
 WLCCW_EXPORT char const* APStateToStrX(APState value);

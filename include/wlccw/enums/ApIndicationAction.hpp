@@ -1,4 +1,5 @@
-// Whether an access point's indication is to be switched off or on.
+/// \file
+/// Whether an access point's indication is to be switched off or on.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -6,6 +7,8 @@
 #include <cstdint>
 #include <string_view>
 
+/// Whether to switch an access point's indication off (DISABLE) or on (ENABLE). UNKNOWN is what any
+/// other text reads as.
 enum class ApIndicationAction : std::int32_t {
   DISABLE,
   ENABLE,
@@ -15,5 +18,6 @@ enum class ApIndicationAction : std::int32_t {
 /// The action named by the text ("disable", "enable", "UNKNOWN", exactly, up to the first NUL);
 /// UNKNOWN for any other text.
 WLCCW_EXPORT ApIndicationAction ApIndicationActionFromStrX(std::string_view text);
-/// The name of the action; "UNKNOWN" for UNKNOWN and any value past it. Never null; static storage.
+/// The name of the action; "UNKNOWN" for UNKNOWN and any value outside the enumeration, negative
+/// ones included. Never null; static storage.
 WLCCW_EXPORT char const* ApIndicationActionToStrX(ApIndicationAction value);

@@ -1,4 +1,5 @@
-// The radio band of an AP profile.
+/// \file
+/// The radio band of an AP profile.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,5 @@
-// The stage of a standalone access point with the controller: registering, ready or upgrading.
+/// \file
+/// The stage of a standalone access point with the controller: registering, ready or upgrading.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -6,6 +7,8 @@
 #include <cstdint>
 #include <string_view>
 
+/// The stage of a standalone access point with the controller. UNKNOWN is what any other text reads
+/// as.
 enum class ApSaStage : std::int32_t {
   REGISTER,
   READY,
@@ -16,5 +19,6 @@ enum class ApSaStage : std::int32_t {
 /// The stage named by the text ("REGISTER", "READY", "UPGRADE", "UNKNOWN", exactly, up to the first
 /// NUL); UNKNOWN for any other text.
 WLCCW_EXPORT ApSaStage ApSaStageFromStrX(std::string_view text);
-/// The name of the stage; "UNKNOWN" for UNKNOWN and any value past it. Never null; static storage.
+/// The name of the stage; "UNKNOWN" for UNKNOWN and any value outside the enumeration, negative
+/// ones included. Never null; static storage.
 WLCCW_EXPORT char const* ApSaStageToStrX(ApSaStage value);

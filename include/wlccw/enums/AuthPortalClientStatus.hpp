@@ -1,5 +1,6 @@
-// The answer of an AP to a captive-portal query about one client. The AP sends it; the controller
-// never writes it.
+/// \file
+/// The answer of an AP to a captive-portal query about one client. The AP sends it; the controller
+/// never writes it.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -8,6 +9,7 @@
 #include <optional>
 #include <string_view>
 
+/// An access point's answer to a captive-portal query about one client.
 enum class AuthPortalClientStatus : std::int32_t {
   SUCCESS,
   FAILED,

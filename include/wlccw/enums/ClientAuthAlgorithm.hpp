@@ -1,4 +1,5 @@
-// The 802.11 authentication algorithm of a client's association.
+/// \file
+/// The 802.11 authentication algorithm of a client's association.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -8,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+/// The 802.11 authentication algorithm of a client's association.
 enum class ClientAuthAlgorithm : std::int32_t {
   OPEN_SYSTEM,
   SHARED_KEY,

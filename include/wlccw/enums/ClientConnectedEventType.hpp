@@ -1,4 +1,5 @@
-// The event that connected a client.
+/// \file
+/// The event that connected a client.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -8,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+/// The event that connected a client: association, authentication, a WDS link or 802.1X success.
 enum class ClientConnectedEventType : std::int32_t {
   ASSOC,
   AUTH,

@@ -1,4 +1,5 @@
-// A captive-portal event of a client.
+/// \file
+/// A captive-portal event of a client.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -8,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+/// A captive-portal event of a client.
 enum class ClientCportalEventType : std::int32_t {
   CP_AUTH,
   CP_DEAUTH,

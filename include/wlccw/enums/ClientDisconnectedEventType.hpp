@@ -1,4 +1,5 @@
-// The event that disconnected a client.
+/// \file
+/// The event that disconnected a client.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -8,6 +9,9 @@
 #include <string>
 #include <string_view>
 
+/// The event that disconnected a client: a disassociation or deauthentication sent or received by
+/// the AP, a WDS disconnection sent or received, a polling event, a reassociation or a
+/// disassociation.
 enum class ClientDisconnectedEventType : std::int32_t {
   SEND_DISASSOC,
   RECV_DISASSOC,

@@ -1,4 +1,5 @@
-// The EAP method a client authenticated with.
+/// \file
+/// The EAP method a client authenticated with.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -8,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+/// The EAP method a client authenticated with.
 enum class ClientEapMethod : std::int32_t {
   EAP_MD5,
   EAP_OTP,

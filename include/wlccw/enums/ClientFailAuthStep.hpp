@@ -1,4 +1,5 @@
-// The step at which a client's authentication failed.
+/// \file
+/// The step at which a client's authentication failed.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -8,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+/// The step at which a client's authentication failed. UNSPECIFIED is also what an unknown IPC
+/// text reads as.
 enum class ClientFailAuthStep : std::int32_t {
   OPEN_SYS_AUTH,
   ASSOCIATION,

@@ -1,5 +1,6 @@
-// The event with which a client's connection failed: the disconnection events, then the failures
-// of association, authentication and 802.1X.
+/// \file
+/// The event with which a client's connection failed: the disconnection events, then the failures
+/// of association, authentication and 802.1X.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -9,6 +10,8 @@
 #include <string>
 #include <string_view>
 
+/// The event with which a client's connection failed: the disconnection events, with the values of
+/// ClientDisconnectedEventType, then ASSOC_FAIL, AUTH_FAIL and IEEE_8021X_FAIL.
 enum class ClientFailEventType : std::int32_t {
   SEND_DISASSOC,
   RECV_DISASSOC,

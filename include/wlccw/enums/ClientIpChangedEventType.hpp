@@ -1,4 +1,5 @@
-// The event through which a client's IP address changed.
+/// \file
+/// The event through which a client's IP address changed.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -8,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+/// The event through which a client's IP address changed.
 enum class ClientIpChangedEventType : std::int32_t {
   IP_CHANGED_IPV4,
   IP_CHANGED_ARP,

@@ -1,5 +1,6 @@
-// The outcome of a client's MAC authentication (the AP says "failed" where the controller says
-// "fail").
+/// \file
+/// The outcome of a client's MAC authentication (the AP says "failed" where the controller says
+/// "fail").
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -9,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+/// The outcome of a client's MAC authentication.
 enum class ClientMacAuthEventType : std::int32_t {
   SUCCESS,
   FAIL,

@@ -1,4 +1,5 @@
-// Why a client's MAC authentication at the RADIUS server did not succeed.
+/// \file
+/// Why a client's MAC authentication at the RADIUS server did not succeed.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -8,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+/// Why a client's MAC authentication at the RADIUS server did not succeed.
 enum class ClientMacAuthReason : std::int32_t {
   RADIUS_REJECT,
   RADIUS_TIMED_OUT,

@@ -1,5 +1,6 @@
-// The state of a client's captive-portal authentication (the AP says "authorized" where the
-// controller says "authenticated").
+/// \file
+/// The state of a client's captive-portal authentication (the AP says "authorized" where the
+/// controller says "authenticated").
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -9,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+/// The state of a client's captive-portal authentication.
 enum class ClientPortalAuthStatus : std::int32_t {
   AUTHENTICATED,
   REAUTHENTICATE,

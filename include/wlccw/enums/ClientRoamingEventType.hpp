@@ -1,4 +1,5 @@
-// A roaming event of a client.
+/// \file
+/// A roaming event of a client.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -8,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+/// A roaming event of a client.
 enum class ClientRoamingEventType : std::int32_t {
   AUTH_FFT_AIR,
   AUTH_FFT_DS,

@@ -1,5 +1,6 @@
-// The 802.11 generation a client uses. The values are not in chronological order; they are
-// fixed, "ax" being 0 and "be" the last.
+/// \file
+/// The 802.11 generation a client uses. The values are not in chronological order; they are
+/// fixed, "ax" being 0 and "be" the last.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -8,6 +9,8 @@
 #include <optional>
 #include <string>
 
+/// The 802.11 generation a client uses; the texts are "ax", "ac", "n", "g", "a", "b", "bg" and "be"
+/// in value order.
 enum class ClientWirelessMode : std::int32_t {
   AX,
   AC,

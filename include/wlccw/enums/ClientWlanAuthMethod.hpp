@@ -1,5 +1,6 @@
-// The security of the WLAN a client joined. The AP's capitalised text is also the command-line
-// name.
+/// \file
+/// The security of the WLAN a client joined. The AP's capitalised text is also the command-line
+/// name.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -9,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+/// The security of the WLAN a client joined.
 enum class ClientWlanAuthMethod : std::int32_t {
   OPEN,
   WPA,

@@ -1,5 +1,6 @@
-// The result of checking an access point's firmware version against the firmware
-// files the controller holds for its board type.
+/// \file
+/// The result of checking an access point's firmware version against the firmware
+/// files the controller holds for its board type.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -7,6 +8,8 @@
 #include <cstdint>
 #include <string_view>
 
+/// The result of checking an access point's firmware version against the firmware files the
+/// controller holds for its board type. UNKNOWN is what any other text reads as.
 enum class FwVersionChecked : std::int32_t {
   UNKNOWN_BOARD_TYPE,
   FW_INVALID_FILE_ABSENT,
@@ -19,5 +22,6 @@ enum class FwVersionChecked : std::int32_t {
 /// The result named by the text ("UNKNOWN_BOARD_TYPE" ... "FW_VALID", "UNKNOWN", exactly, up to the
 /// first NUL); UNKNOWN for any other text.
 WLCCW_EXPORT FwVersionChecked FwVersionCheckedFromStrX(std::string_view text);
-/// The name of the result; "UNKNOWN" for UNKNOWN and any value past it. Never null; static storage.
+/// The name of the result; "UNKNOWN" for UNKNOWN and any value outside the enumeration, negative
+/// ones included. Never null; static storage.
 WLCCW_EXPORT char const* FwVersionCheckedToStrX(FwVersionChecked value);

@@ -1,4 +1,5 @@
-// Whether the controller accepts incoming access-point connections.
+/// \file
+/// Whether the controller accepts incoming access-point connections.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -6,6 +7,8 @@
 #include <cstdint>
 #include <string_view>
 
+/// Whether the controller accepts incoming access-point connections. UNKNOWN is what any other text
+/// reads as.
 enum class IncomingConnections : std::int32_t {
   ALLOWED,
   FORBIDDEN,
@@ -15,6 +18,6 @@ enum class IncomingConnections : std::int32_t {
 /// The setting named by the text ("ALLOWED", "FORBIDDEN", "UNKNOWN", exactly, up to the first NUL);
 /// UNKNOWN for any other text.
 WLCCW_EXPORT IncomingConnections IncomingConnectionsFromStrX(std::string_view text);
-/// The name of the setting; "UNKNOWN" for UNKNOWN and any value past it. Never null; static
-/// storage.
+/// The name of the setting; "UNKNOWN" for UNKNOWN and any value outside the enumeration, negative
+/// ones included. Never null; static storage.
 WLCCW_EXPORT char const* IncomingConnectionsToStrX(IncomingConnections value);

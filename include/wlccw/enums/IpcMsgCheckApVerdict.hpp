@@ -1,4 +1,5 @@
-// The verdict of the admission check of an access point that asks to connect.
+/// \file
+/// The verdict of the admission check of an access point that asks to connect.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -6,6 +7,8 @@
 #include <cstdint>
 #include <string_view>
 
+/// The verdict of the admission check of an access point: accepted (ACCEPT_...), refused (FAIL_...)
+/// or NOT_CHECKED. UNKNOWN is what any other text reads as.
 enum class IpcMsgCheckApVerdict : std::int32_t {
   ACCEPT_KNOWN_AP,
   ACCEPT_KNOWN_UPGRADING_AP,
@@ -21,6 +24,6 @@ enum class IpcMsgCheckApVerdict : std::int32_t {
 /// The verdict named by the text ("ACCEPT_KNOWN_AP" ... "NOT_CHECKED", "UNKNOWN", exactly, up to
 /// the first NUL); UNKNOWN for any other text.
 WLCCW_EXPORT IpcMsgCheckApVerdict IpcMsgCheckApVerdictFromStrX(std::string_view text);
-/// The name of the verdict; "UNKNOWN" for UNKNOWN and any value past it. Never null; static
-/// storage.
+/// The name of the verdict; "UNKNOWN" for UNKNOWN and any value outside the enumeration, negative
+/// ones included. Never null; static storage.
 WLCCW_EXPORT char const* IpcMsgCheckApVerdictToStrX(IpcMsgCheckApVerdict value);

@@ -1,4 +1,5 @@
-// The reason carried by a request to stop.
+/// \file
+/// The reason carried by a request to stop.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -6,6 +7,7 @@
 #include <cstdint>
 #include <string_view>
 
+/// The reason carried by a request to stop: REBOOT, or UNKNOWN for any other.
 enum class IpcStopReason : std::int32_t {
   REBOOT,
   UNKNOWN,

@@ -1,4 +1,5 @@
-// Where a WLAN checks the MAC addresses of its clients: locally or through RADIUS.
+/// \file
+/// Where a WLAN checks the MAC addresses of its clients: locally or through RADIUS.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -7,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+/// Where a WLAN checks the MAC addresses of its clients: locally (0) or through RADIUS (1).
 enum class MacAuthMode : std::int32_t {
   LOCAL = 0,
   RADIUS = 1,

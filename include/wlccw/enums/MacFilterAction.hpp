@@ -1,4 +1,5 @@
-// An operation on a MAC address filter.
+/// \file
+/// An operation on a MAC address filter.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -6,6 +7,7 @@
 #include <cstdint>
 #include <string_view>
 
+/// An operation on a MAC address filter. UNKNOWN is what any other text reads as.
 enum class MacFilterAction : std::int32_t {
   ENABLE,
   DISABLE,
@@ -20,5 +22,6 @@ enum class MacFilterAction : std::int32_t {
 /// The action named by the text ("enable" ... "clear", "UNKNOWN", exactly, up to the first NUL);
 /// UNKNOWN for any other text.
 WLCCW_EXPORT MacFilterAction MacFilterActionFromStrX(std::string_view text);
-/// The name of the action; "UNKNOWN" for UNKNOWN and any value past it. Never null; static storage.
+/// The name of the action; "UNKNOWN" for UNKNOWN and any value outside the enumeration, negative
+/// ones included. Never null; static storage.
 WLCCW_EXPORT char const* MacFilterActionToStrX(MacFilterAction value);

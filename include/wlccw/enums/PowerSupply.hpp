@@ -1,4 +1,5 @@
-// How an access point is powered.
+/// \file
+/// How an access point is powered.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -7,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+/// How an access point is powered; UNKNOWN, which has no text, stands for a supply the AP did not
+/// name.
 enum class PowerSupply : std::int32_t {
   POE_UNCLASSIFIED = 0,
   POE_PLUS = 1,

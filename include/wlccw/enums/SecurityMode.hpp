@@ -1,4 +1,5 @@
-// The security mode of a WLAN.
+/// \file
+/// The security mode of a WLAN.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -6,6 +7,8 @@
 #include <cstdint>
 #include <string_view>
 
+/// The security mode of a WLAN; the texts are "off", "WPA", "WPA_1X", ... "OWE" in value order.
+/// UNKNOWN is what any other text reads as.
 enum class SecurityMode : std::int32_t {
   OFF,
   WPA,
@@ -25,5 +28,6 @@ enum class SecurityMode : std::int32_t {
 /// The mode named by the text ("off" ... "OWE", "UNKNOWN", exactly, up to the first NUL);
 /// UNKNOWN for any other text.
 WLCCW_EXPORT SecurityMode SecurityModeFromStrX(std::string_view text);
-/// The name of the mode; "UNKNOWN" for UNKNOWN and any value past it. Never null; static storage.
+/// The name of the mode; "UNKNOWN" for UNKNOWN and any value outside the enumeration, negative ones
+/// included. Never null; static storage.
 WLCCW_EXPORT char const* SecurityModeToStrX(SecurityMode value);

@@ -1,4 +1,5 @@
-// The VRRP role of this controller in a redundant pair.
+/// \file
+/// The VRRP role of this controller in a redundant pair.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -6,6 +7,8 @@
 #include <cstdint>
 #include <string_view>
 
+/// The VRRP role of this controller: no redundancy (NO_VRRP), MASTER or STANDBY. UNKNOWN is what
+/// any other text reads as.
 enum class VrrpRole : std::int32_t {
   NO_VRRP,
   MASTER,
@@ -16,5 +19,6 @@ enum class VrrpRole : std::int32_t {
 /// The role named by the text ("NO_VRRP", "MASTER", "STANDBY", "UNKNOWN", exactly, up to the first
 /// NUL); UNKNOWN for any other text.
 WLCCW_EXPORT VrrpRole VrrpRoleFromStrX(std::string_view text);
-/// The name of the role; "UNKNOWN" for UNKNOWN and any value past it. Never null; static storage.
+/// The name of the role; "UNKNOWN" for UNKNOWN and any value outside the enumeration, negative ones
+/// included. Never null; static storage.
 WLCCW_EXPORT char const* VrrpRoleToStrX(VrrpRole value);

@@ -1,4 +1,5 @@
-// The security class of the WLAN on which the intrusion detection banned a client.
+/// \file
+/// The security class of the WLAN on which the intrusion detection banned a client.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -6,8 +7,10 @@
 #include <cstdint>
 #include <string>
 
+/// The security class of the WLAN on which the intrusion detection banned a client, with its texts.
 namespace WidsClientBannedAuthMethod {
 
+/// The security class; the values are the numbers an AP reports.
 enum class Type : std::int32_t {
   OPEN = 0,
   PERSONAL = 1,

@@ -1,5 +1,6 @@
-// The EAP method a client banned by the intrusion detection used; the values are the EAP type
-// codes carried in EAP packets.
+/// \file
+/// The EAP method a client banned by the intrusion detection used; the values are the EAP type
+/// codes carried in EAP packets.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -7,8 +8,10 @@
 #include <cstdint>
 #include <string>
 
+/// The EAP method of a client banned by the intrusion detection, with its texts.
 namespace WidsClientBannedEAPMethod {
 
+/// An EAP method, valued by its EAP type code; NONE also stands for a code not in the table.
 enum class Type : std::int32_t {
   NONE = 0,
   IDENTITY = 1,

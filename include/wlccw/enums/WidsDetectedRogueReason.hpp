@@ -1,4 +1,5 @@
-// Why the intrusion detection classified an access point as rogue.
+/// \file
+/// Why the intrusion detection classified an access point as rogue.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -7,8 +8,10 @@
 #include <optional>
 #include <string>
 
+/// Why the intrusion detection classified an access point as rogue, with its texts.
 namespace WidsDetectedRogueReason {
 
+/// The reason an access point was classified as rogue.
 enum class Reason : std::int32_t {
   FAKE_SSID_ROGUE = 0,
   FAKE_MAC_ROGUE = 1,

@@ -1,4 +1,5 @@
-// The kind of denial-of-service attack the intrusion detection reports.
+/// \file
+/// The kind of denial-of-service attack the intrusion detection reports.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -6,8 +7,10 @@
 #include <cstdint>
 #include <string>
 
+/// The kind of denial-of-service attack the intrusion detection reports, with its texts.
 namespace WidsDosAttack {
 
+/// The kind of attack; UNKNOWN (text "unknown") is also what any other text reads as.
 enum class Type : std::int32_t {
   MANY_PACKETS_OVER_PERIOD = 0,
   PACKETS_LEAP_TOO_BIG = 1,

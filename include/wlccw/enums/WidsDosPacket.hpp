@@ -1,6 +1,7 @@
-// The 802.11 frame type and subtype used in a denial-of-service attack, in the order of the frame
-// subtypes: management, then control, then data. Reserved subtypes and the timing advertisement
-// have no value.
+/// \file
+/// The 802.11 frame type and subtype used in a denial-of-service attack, in the order of the frame
+/// subtypes: management, then control, then data. Reserved subtypes and the timing advertisement
+/// have no value.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -8,8 +9,11 @@
 #include <cstdint>
 #include <string>
 
+/// The 802.11 frame used in a denial-of-service attack, with its texts.
 namespace WidsDosPacket {
 
+/// The frame type and subtype, in the order of the frame subtypes; each text is the name in lower
+/// case, except NULL_DATA, whose text is "null".
 enum class Packet : std::int32_t {
   ASSOC_REQ = 0,
   ASSOC_RESP = 1,

@@ -1,4 +1,5 @@
-// Management-frame protection of a WLAN.
+/// \file
+/// Management-frame protection of a WLAN.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -8,8 +9,10 @@
 #include <string>
 #include <string_view>
 
+/// Management-frame protection of a WLAN, with its configuration words.
 namespace mfp {
 
+/// The management-frame protection mode of a WLAN.
 enum class Mode : std::int32_t {
   AUTO = 0,
   OFF = 1,

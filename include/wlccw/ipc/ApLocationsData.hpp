@@ -1,4 +1,5 @@
-// The AP locations known to the controller, each a location id with its time zone.
+/// \file
+/// The AP locations known to the controller, each a location id with its time zone.
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -25,6 +26,7 @@ public:
     /// Its time zone ("timezone" in the IPC form).
     std::string time_zone;
 
+    /// Same id and same time zone.
     friend bool operator==(ApLocation const&, ApLocation const&) = default;
   };
 
@@ -53,6 +55,7 @@ public:
   /// std::hash<std::string> of to_str().
   std::size_t get_hash() const;
 
+  /// Equal when both hold equal locations in the same order.
   friend bool operator==(ApLocationsData const&, ApLocationsData const&) = default;
 
 private:

@@ -1,5 +1,6 @@
-// The white and black MAC address lists of an access point's intrusion detection: passed between
-// the controller's daemons as IPC JSON text and handed to the access point as NETCONF arrays.
+/// \file
+/// The white and black MAC address lists of an access point's intrusion detection: passed between
+/// the controller's daemons as IPC JSON text and handed to the access point as NETCONF arrays.
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -30,8 +31,8 @@ public:
   /// out, key and all.
   std::string ipc_serialize() const;
   /// A new object read from IPC text. Never throws on bad text: text that is not JSON gives two
-  /// empty lists, a missing key an empty list, and an element that is no address the default
-  /// MacAddr (kept, not dropped; written back as 00:00:00:00:00:00).
+  /// empty lists, a key that is missing or not an array an empty list, and an element that is no
+  /// address text the default MacAddr (kept, not dropped; written back as 00:00:00:00:00:00).
   static ApWidsMacLists ipc_deserialize(std::string const& text);
   /// std::hash<std::string> of ipc_serialize().
   std::size_t get_hash() const;

@@ -1,9 +1,10 @@
-// Where a RADIUS CoA request for one client must be relayed: nowhere known (the client is bound to
-// no access point), to an access point without DAS proxy configuration, or to a full proxy
-// endpoint with its shared secret.
-//
-// The shared secret travels in clear inside the IPC text. The record has no stream operator and no
-// text form other than that IPC text, so nothing in the library prints or logs a secret.
+/// \file
+/// Where a RADIUS CoA request for one client must be relayed: nowhere known (the client is bound to
+/// no access point), to an access point without DAS proxy configuration, or to a full proxy
+/// endpoint with its shared secret.
+///
+/// The shared secret travels in clear inside the IPC text. The record has no stream operator and no
+/// text form other than that IPC text, so nothing in the library prints or logs a secret.
 #pragma once
 
 #include <wlccw/common/IpAddr.hpp>
@@ -76,5 +77,7 @@ public:
   /// range "port" gives 0 and a missing or non-boolean "enabled" false.
   static ClientCoaProxyInfo from_ipc(std::string const& text);
 
+  /// Equal when every member is equal, those the state does not use included (MAC addresses by
+  /// their octets).
   friend bool operator==(ClientCoaProxyInfo const&, ClientCoaProxyInfo const&) = default;
 };

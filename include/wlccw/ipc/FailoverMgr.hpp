@@ -1,4 +1,5 @@
-// Reacting to changes of this controller's VRRP role by calling the handlers its owner registered.
+/// \file
+/// Reacting to changes of this controller's VRRP role by calling the handlers its owner registered.
 #pragma once
 
 #include <wlccw/enums/VrrpRole.hpp>
@@ -18,6 +19,7 @@ public:
   /// v (as a signed 64-bit number), seed ^= v + 0x9e3779b9 + (seed << 6) + (seed >> 2), in
   /// wrapping 64-bit unsigned arithmetic.
   struct PairHash {
+    /// The hash of roles, as described above.
     std::size_t operator()(std::pair<VrrpRole, VrrpRole> const& roles) const noexcept {
       std::uint64_t seed = 0;
       for (VrrpRole const role : {roles.first, roles.second}) {
@@ -28,8 +30,11 @@ public:
     }
   };
 
+  /// A role change: (old role, new role).
   using Transition = std::pair<VrrpRole, VrrpRole>;
+  /// Handlers by role change.
   using TransitionHandlers = std::unordered_map<Transition, std::function<void()>, PairHash>;
+  /// Handlers by role.
   using RoleHandlers = std::unordered_map<VrrpRole, std::function<void()>>;
 
   /// Handler per (old role, new role) transition.
@@ -46,12 +51,12 @@ public:
   FailoverMgr(TransitionHandlers transitions, RoleHandlers roles);
 
   /// Applies a new role. The same role as the current one changes nothing, calls nothing and
-  /// returns false. Otherwise current_role becomes new_role first, then the handler registered
-  /// for (old role, new role) is called if there is one (an empty std::function counts as none),
-  /// and the result is true either way. An exception from the handler propagates, with the role
-  /// already changed.
+  /// returns false. Otherwise current_role becomes new_role first, then the handler registered for
+  /// (old role, new role) is called if there is one (an empty std::function counts as none), and
+  /// the result is true either way. The handler runs as a copy, so it may replace the registered
+  /// handlers. An exception from the handler propagates, with the role already changed.
   bool process_role_update(VrrpRole new_role);
   /// Calls the handler registered for current_role, if there is one (an empty std::function counts
-  /// as none). An exception from the handler propagates.
+  /// as none); the handler runs as a copy. An exception from the handler propagates.
   void process_role_current() const;
 };

@@ -1,5 +1,6 @@
-// A VAP together with the identity of the AP that runs it: the AP's MAC address, host name and
-// location, carried in the same IPC object as the VAP's own keys.
+/// \file
+/// A VAP together with the identity of the AP that runs it: the AP's MAC address, host name and
+/// location, carried in the same IPC object as the VAP's own keys.
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -32,5 +33,6 @@ public:
   /// Writes Vap::to_json, then "ap-mac", "ap-hostname" and "ap-location".
   void to_json(lcw_data_t& object) const override;
 
+  /// Equal when the VAP members and the AP's identity are equal (the AP address by its octets).
   friend bool operator==(FullVapData const&, FullVapData const&) = default;
 };

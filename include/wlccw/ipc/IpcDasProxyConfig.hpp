@@ -1,8 +1,9 @@
-// The Dynamic Authorization Server (DAS) proxy settings of the access points: where each access
-// point listens for relayed RADIUS Disconnect and CoA requests and with which shared secret.
-//
-// The shared secret travels in clear inside the IPC text. The records have no stream operator and
-// no text form other than that IPC text, so nothing in the library prints or logs a secret.
+/// \file
+/// The Dynamic Authorization Server (DAS) proxy settings of the access points: where each access
+/// point listens for relayed RADIUS Disconnect and CoA requests and with which shared secret.
+///
+/// The shared secret travels in clear inside the IPC text. The records have no stream operator and
+/// no text form other than that IPC text, so nothing in the library prints or logs a secret.
 #pragma once
 
 #include <wlccw/common/IpAddr.hpp>
@@ -38,10 +39,13 @@ public:
     Config() = default;
     /// An entry holding the given values.
     Config(MacAddr mac_, IpAddr ip_, std::string key_, std::uint16_t port_, bool enabled_);
+    /// Copies every field.
     Config(Config const&) = default;
     /// Moves the secret and copies the other fields.
     Config(Config&& other) noexcept;
+    /// Copies every field.
     Config& operator=(Config const&) = default;
+    /// Moves the secret and copies the other fields.
     Config& operator=(Config&&) noexcept = default;
     ~Config() = default;
 
@@ -50,6 +54,7 @@ public:
     /// mixed in by the same formula (seed ^= port + 0x9e3779b9 + (seed << 6) + (seed >> 2)).
     std::size_t get_hash() const;
 
+    /// Equal when every field is equal.
     friend bool operator==(Config const&, Config const&) = default;
   };
 
@@ -71,5 +76,6 @@ public:
   /// std::hash<std::string> of ipc_serialize(): the same entries in another order hash apart.
   std::size_t get_hash() const;
 
+  /// Equal when both hold equal entries in the same order.
   friend bool operator==(IpcDasProxyConfig const&, IpcDasProxyConfig const&) = default;
 };

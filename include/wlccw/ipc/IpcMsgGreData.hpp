@@ -1,5 +1,6 @@
-// What the GRE tunnelling daemon needs to know: the remote offices, which client MAC addresses
-// belong to which office and which IPv4 address pools are assigned to which office.
+/// \file
+/// What the GRE tunnelling daemon needs to know: the remote offices, which client MAC addresses
+/// belong to which office and which IPv4 address pools are assigned to which office.
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -38,9 +39,9 @@ public:
   struct IpPoolInfo {
     /// Name of the pool (its key in the IPC form).
     std::string name;
-    /// Network address of the pool, in network byte order; 0.0.0.0 when it was not an address.
+    /// Network address of the pool, in network byte order; 0.0.0.0 when inet_aton refused it.
     in_addr network{};
-    /// Mask of the pool, in network byte order; 0.0.0.0 when it was not an address.
+    /// Mask of the pool, in network byte order; 0.0.0.0 when inet_aton refused it.
     in_addr netmask{};
     /// Office the pool belongs to.
     std::string office;
@@ -57,8 +58,10 @@ public:
   /// with a bare MacAddr, so a set can be searched by address. A null entry orders before every
   /// other entry.
   struct MacsCmp {
+    /// Lets the set be searched by a bare MacAddr.
     using is_transparent = void;
 
+    /// Whether entry a orders before entry b.
     bool operator()(std::shared_ptr<MacInfo> const& a,
                     std::shared_ptr<MacInfo> const& b) const noexcept {
       if (!a || !b) {
@@ -66,9 +69,11 @@ public:
       }
       return a->mac.bytes < b->mac.bytes;
     }
+    /// Whether entry a orders before address b.
     bool operator()(std::shared_ptr<MacInfo> const& a, MacAddr const& b) const noexcept {
       return !a || a->mac.bytes < b.bytes;
     }
+    /// Whether address a orders before entry b.
     bool operator()(MacAddr const& a, std::shared_ptr<MacInfo> const& b) const noexcept {
       return b && a.bytes < b->mac.bytes;
     }
@@ -77,8 +82,10 @@ public:
   /// Orders pools by name (ordinary string comparison). Also compares a pool with a bare name, so
   /// a set can be searched by name. A null entry orders before every other entry.
   struct IpPoolsCmp {
+    /// Lets the set be searched by a bare name.
     using is_transparent = void;
 
+    /// Whether pool a orders before pool b.
     bool operator()(std::shared_ptr<IpPoolInfo> const& a,
                     std::shared_ptr<IpPoolInfo> const& b) const noexcept {
       if (!a || !b) {
@@ -86,9 +93,11 @@ public:
       }
       return a->name < b->name;
     }
+    /// Whether pool a orders before name b.
     bool operator()(std::shared_ptr<IpPoolInfo> const& a, std::string_view b) const noexcept {
       return !a || std::string_view(a->name) < b;
     }
+    /// Whether name a orders before pool b.
     bool operator()(std::string_view a, std::shared_ptr<IpPoolInfo> const& b) const noexcept {
       return b && a < std::string_view(b->name);
     }
@@ -105,10 +114,10 @@ public:
   IpcMsgGreData() = default;
   /// Reads the IPC text. Never throws on bad input: text that is not JSON leaves all three sets
   /// empty; a key that is missing or not of its container type leaves its set empty. An "offices"
-  /// element is taken as its scalar text ("" for an object, an array or null). A "macs" key that
-  /// is no MAC address gives the all-zero address; of entries with the same address octets, and of
-  /// pools with the same name, the first one read stays. A pool's "network" or "netmask" that is no
-  /// IPv4 address gives 0.0.0.0.
+  /// element is taken as its scalar text ("" for an object, an array or null). A "macs" key that is
+  /// no MAC address gives the all-zero address; of entries with the same address octets, and of
+  /// pools with the same name, the first one read stays. A pool's "network" or "netmask" that
+  /// inet_aton refuses gives 0.0.0.0.
   explicit IpcMsgGreData(std::string_view json);
 
   /// The IPC tree, owned by the caller (release it with cfg_release); null when no object can be

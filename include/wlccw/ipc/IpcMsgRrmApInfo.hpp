@@ -1,6 +1,7 @@
-// What radio-resource management knows of one access point: its type, IPv4 address and location,
-// and for each of its wireless interfaces the SSID served, the band and the radio and VAP numbers.
-// Sent between the controller's daemons as compact IPC text and rebuilt from it by the receiver.
+/// \file
+/// What radio-resource management knows of one access point: its type, IPv4 address and location,
+/// and for each of its wireless interfaces the SSID served, the band and the radio and VAP numbers.
+/// Sent between the controller's daemons as compact IPC text and rebuilt from it by the receiver.
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -35,6 +36,7 @@ public:
   public:
     /// The SSID the VAP serves.
     std::string ssid;
+    /// The band the VAP serves ("band").
     Band band = Band::BAND_2G;
     /// Radio number. Travels as a JSON int: a number above 2147483647 is written as the int of
     /// the same low 32 bits, and a negative int is read back as its 64-bit two's complement.
@@ -49,12 +51,17 @@ public:
     /// "2g").
     VapInfo(std::string served_ssid, std::string const& band_text, std::uint64_t radio_number,
             std::uint64_t vap_number);
+    /// Copies every member.
     VapInfo(VapInfo const&) = default;
+    /// Moves the SSID and copies the other members.
     VapInfo(VapInfo&&) noexcept = default;
+    /// Copies every member.
     VapInfo& operator=(VapInfo const&) = default;
+    /// Moves the SSID and copies the other members.
     VapInfo& operator=(VapInfo&&) noexcept = default;
     virtual ~VapInfo() = default;
 
+    /// Same SSID, band and numbers.
     friend bool operator==(VapInfo const&, VapInfo const&) = default;
   };
 
@@ -102,5 +109,6 @@ public:
   /// The standard string hash of to_str().
   std::size_t get_hash() const;
 
+  /// Equal when the address (with its validity), both texts and the interfaces are equal.
   friend bool operator==(IpcMsgRrmApInfo const&, IpcMsgRrmApInfo const&) = default;
 };

@@ -1,5 +1,6 @@
-// A request to the radio-optimisation service: the operation asked for and its parameters, kept as
-// compact JSON text and picked apart on demand by typed accessors.
+/// \file
+/// A request to the radio-optimisation service: the operation asked for and its parameters, kept as
+/// compact JSON text and picked apart on demand by typed accessors.
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -53,5 +54,6 @@ public:
   /// or "".
   std::optional<std::string> get_location() const;
 
+  /// Same operation and the same `params` text (compared as text, not as JSON).
   friend bool operator==(IpcMsgVelmoraRequest const&, IpcMsgVelmoraRequest const&) = default;
 };

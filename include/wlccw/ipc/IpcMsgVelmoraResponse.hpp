@@ -1,5 +1,6 @@
-// The radio-optimisation service's answer to a request: the operation answered, its outcome, an
-// optional cause and the result data, kept as compact JSON text.
+/// \file
+/// The radio-optimisation service's answer to a request: the operation answered, its outcome, an
+/// optional cause and the result data, kept as compact JSON text.
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -42,5 +43,6 @@ public:
   /// The compact text of get_json(); "" when no tree can be made.
   std::string to_str() const;
 
+  /// Same operation, outcome and cause, and the same `data` text (compared as text, not as JSON).
   friend bool operator==(IpcMsgVelmoraResponse const&, IpcMsgVelmoraResponse const&) = default;
 };

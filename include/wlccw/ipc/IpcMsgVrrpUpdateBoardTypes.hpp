@@ -1,5 +1,6 @@
-// The message by which one controller of a redundant pair tells its peer the hardware board type
-// and software version of every access point it knows.
+/// \file
+/// The message by which one controller of a redundant pair tells its peer the hardware board type
+/// and software version of every access point it knows.
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -26,9 +27,11 @@ public:
     /// Software version ("sw-version").
     std::string sw_version;
 
+    /// Same board type and software version.
     friend bool operator==(BoardTypeDesc const&, BoardTypeDesc const&) = default;
   };
 
+  /// Board type and version by access point address (its octets; validity takes no part).
   using Map = std::unordered_map<MacAddr, BoardTypeDesc>;
 
   /// Board type and version per access point.
@@ -50,6 +53,7 @@ public:
   /// array.
   static std::shared_ptr<IpcMsgVrrpUpdateBoardTypes> from_json(lcw_data_t& parent);
 
+  /// Equal when both maps hold the same entries, in whatever order.
   friend bool operator==(IpcMsgVrrpUpdateBoardTypes const&,
                          IpcMsgVrrpUpdateBoardTypes const&) = default;
 

@@ -1,5 +1,6 @@
-// The standalone access points: APs that the controller has found but does not (yet) manage, with
-// their identity, versions and their stage on the way to being joined.
+/// \file
+/// The standalone access points: APs that the controller has found but does not (yet) manage, with
+/// their identity, versions and their stage on the way to being joined.
 #pragma once
 
 #include <wlccw/common/IpAddr.hpp>
@@ -40,6 +41,8 @@ public:
     std::string serial;                             ///< "serial"
     WLCBT_SA_STATUS status = WLCBT_SA_STATUS::NONE; ///< "status"
 
+    /// Equal when every member is equal (the MAC address by its octets, the IP address with its
+    /// validity).
     friend bool operator==(ApInfo const&, ApInfo const&) = default;
   };
 
@@ -55,5 +58,6 @@ public:
   /// gives the default (invalid) address, a missing text "", an unknown or missing status NONE.
   static SaApsInfo ipc_deserialize(std::string_view text);
 
+  /// Equal when both hold equal APs in the same order.
   friend bool operator==(SaApsInfo const&, SaApsInfo const&) = default;
 };

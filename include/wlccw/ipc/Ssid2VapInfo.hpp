@@ -1,6 +1,7 @@
-// The RRM descriptions of several access points in one message, keyed by AP MAC address: which
-// VAPs each AP runs. Sent as compact IPC text; each AP's description travels inside it as a JSON
-// string holding that AP's own compact IPC text.
+/// \file
+/// The RRM descriptions of several access points in one message, keyed by AP MAC address: which
+/// VAPs each AP runs. Sent as compact IPC text; each AP's description travels inside it as a JSON
+/// string holding that AP's own compact IPC text.
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -42,6 +43,7 @@ public:
   /// The compact text of get_json(); "" when no tree can be made, "{}" when the map is empty.
   std::string to_str() const;
 
+  /// Equal when both maps hold equal descriptions under the same addresses.
   friend bool operator==(Ssid2VapInfo const&, Ssid2VapInfo const&) = default;
 
 private:

@@ -1,7 +1,8 @@
-// One virtual access point (VAP) of an AP radio: radio and WLAN numbers, VLAN, interface and radio
-// names, band, client count, whether it is enabled and, for an enabled VAP, its SSID, BSSID,
-// authentication type and retry rate. Read strictly from the AP's NETCONF data and exchanged
-// between the controller's daemons as IPC JSON.
+/// \file
+/// One virtual access point (VAP) of an AP radio: radio and WLAN numbers, VLAN, interface and radio
+/// names, band, client count, whether it is enabled and, for an enabled VAP, its SSID, BSSID,
+/// authentication type and retry rate. Read strictly from the AP's NETCONF data and exchanged
+/// between the controller's daemons as IPC JSON.
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -35,6 +36,8 @@ public:
   ApProfileRadioBand band = ApProfileRadioBand::BAND_2_4_GHZ;
   /// Number of associated clients; zero for a disabled VAP read from NETCONF.
   std::int32_t client_count = 0;
+  /// Whether the VAP is enabled ("enabled", true only for JSON true); SSID, BSSID, authentication
+  /// type and retry rate belong to an enabled VAP only.
   bool enabled = false;
   /// SSID; read only for an enabled VAP.
   std::optional<std::string> ssid;
@@ -45,10 +48,15 @@ public:
   /// Retry rate; read only for an enabled VAP.
   std::optional<std::uint8_t> retry_rate;
 
+  /// A disabled VAP: zero numbers, empty names, band 2.4 GHz, the optional members empty.
   Vap() = default;
+  /// Copies every member.
   Vap(Vap const&) = default;
+  /// Moves every member.
   Vap(Vap&&) noexcept = default;
+  /// Copies every member.
   Vap& operator=(Vap const&) = default;
+  /// Moves every member.
   Vap& operator=(Vap&&) noexcept = default;
 
   /// Reads one VAP object of the AP's NETCONF data ("rfid", "wid", "name", "radio", "enabled"
@@ -69,10 +77,12 @@ public:
   /// Writes the IPC form into object. For an enabled VAP, "bssid" and "auth-type" are written even
   /// when empty: as 00:00:00:00:00:00 and as the name of the default mode, "off".
   virtual void to_json(lcw_data_t& object) const;
+  /// Virtual, so a FullVapData is destroyed whole through a Vap pointer.
   virtual ~Vap() = default;
 
   /// The IPC band text: "2.4", "5" or "6"; "" for any other band.
   std::string band_bridge_serialize() const;
 
+  /// Equal when every member is equal (the BSSID by its octets).
   friend bool operator==(Vap const&, Vap const&) = default;
 };

@@ -1,5 +1,6 @@
-// The access points that an AP's intrusion detection reports as under denial-of-service attack,
-// with the channel of each: read from the AP's free text and passed between daemons as IPC JSON.
+/// \file
+/// The access points that an AP's intrusion detection reports as under denial-of-service attack,
+/// with the channel of each: read from the AP's free text and passed between daemons as IPC JSON.
 #pragma once
 
 #include <wlccw/common/MacAddr.hpp>
@@ -17,8 +18,8 @@
 /// channel. The scan goes on after the last digit of each report. Anything else, such as a MAC with
 /// "-" or two blanks between the words, is not a report. Text without a report gives an empty list.
 ///
-/// Throws std::out_of_range when a channel does not fit an int (as std::stoi does); nothing
-/// partial is returned then.
+/// Throws std::out_of_range (from std::stoi) when a channel does not fit an int; nothing partial
+/// is returned then.
 WLCCW_EXPORT std::vector<std::pair<MacAddr, int>> parse_attacked_aps(std::string text);
 
 /// The attacked APs of one report, each with its channel, in the order read.
@@ -43,5 +44,6 @@ public:
   /// The same text as to_str().
   std::string ipc_serialize() const;
 
+  /// Equal when both hold the same pairs in the same order (addresses by their octets).
   friend bool operator==(WidsAttackedAps const&, WidsAttackedAps const&) = default;
 };

@@ -1,6 +1,7 @@
-// The physical Ethernet ports of an access point as it reports them in its NETCONF monitoring data:
-// name, logical interface, MAC address, link state, speed, duplex, media type, uptime and traffic
-// counters. One per-port object serves as both the NETCONF and the IPC form.
+/// \file
+/// The physical Ethernet ports of an access point as it reports them in its NETCONF monitoring
+/// data: name, logical interface, MAC address, link state, speed, duplex, media type, uptime and
+/// traffic counters. One per-port object serves as both the NETCONF and the IPC form.
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -32,31 +33,39 @@ public:
     std::uint64_t tx_bytes = 0;                            ///< "tx-bytes"
     std::uint64_t tx_packets = 0;                          ///< "tx-packets"
 
+    /// Equal when every member is equal (addresses by their octets, validity ignored).
     friend bool operator==(ApEthernetPortInfo const&, ApEthernetPortInfo const&) = default;
   };
 
   /// The ports in the order of the JSON array.
   std::vector<ApEthernetPortInfo> ethernet_ports;
 
-  /// Reads the "ethernet-ports" array of node: null when there is no such array, an empty record
-  /// for an empty one. Never throws on bad input.
+  /// Reads the "ethernet-ports" array of node, one entry per element as from_json reads it: null
+  /// when the member is missing or not an array, an empty record for an empty array. Never throws
+  /// on bad input.
   static std::shared_ptr<NcIpcApMonitoringEthernetPorts> from_netconf(lcw_data_t& node);
   /// The same reading as from_netconf: both forms are alike.
   static std::shared_ptr<NcIpcApMonitoringEthernetPorts> from_ipc(lcw_data_t& node);
 
-  /// Adds the array "ethernet-ports" to node, one object per port in list order.
+  /// Adds the array "ethernet-ports" to node, one object per port in list order; writes nothing
+  /// when node is not an object.
   void to_ipc(lcw_data_t& node) const;
   /// The compact text of a top-level array of the port objects (no enclosing key); "[]" for no
   /// ports.
   std::string to_ipc() const;
 
-  /// Reads one port object: the name folded to lower case, the duplex words "enabled" (full) and
-  /// "disabled" (half) accepted besides the table's texts, unknown texts giving UNNAMED, a
-  /// malformed "mac-address" the default address.
+  /// Reads one port object. Never rejects one: the name is folded to lower case; "link" and
+  /// "duplex" texts outside their tables give UNNAMED, the duplex words "enabled" (full) and
+  /// "disabled" (half) being accepted besides the table's texts; a malformed or missing
+  /// "mac-address" gives the default address; a number that is missing or unreadable reads as 0. An
+  /// element that is not an object gives an entry of defaults.
   static ApEthernetPortInfo from_json(lcw_data_t& object);
-  /// Writes one port into object, keys in wire order ("logical-interface" before "mac-address").
+  /// Writes one port into object, keys in wire order ("logical-interface" before "mac-address"). A
+  /// link state or duplex mode outside its table (UNNAMED included) is written as ""; "enabled" and
+  /// "disabled" are never written.
   static void to_json(ApEthernetPortInfo const& info, lcw_data_t& object);
 
+  /// Equal when both lists hold equal entries in the same order.
   friend bool operator==(NcIpcApMonitoringEthernetPorts const&,
                          NcIpcApMonitoringEthernetPorts const&) = default;
 };

@@ -1,6 +1,7 @@
-// The network interfaces of an access point as it reports them in its NETCONF monitoring data, with
-// their link state, speed, duplex, rates and traffic counters. One per-interface object serves as
-// both the NETCONF and the IPC form.
+/// \file
+/// The network interfaces of an access point as it reports them in its NETCONF monitoring data,
+/// with their link state, speed, duplex, rates and traffic counters. One per-interface object
+/// serves as both the NETCONF and the IPC form.
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -23,7 +24,7 @@ enum class WLCBT_OPERSTATE : std::int32_t {
   LOWERLAYERDOWN = 4, ///< "lowerlayerdown"
   TESTING = 5,        ///< "testing"
   DORMANT = 6,        ///< "dormant"
-  UNNAMED = 7,
+  UNNAMED = 7,        ///< no text: what a text outside the table reads as
 };
 
 /// The duplex mode of a link. UNNAMED is what a text outside the table reads as; it and any other
@@ -32,7 +33,7 @@ enum class WLCBT_DUPLEX_MODE : std::int32_t {
   HALF = 0,        ///< "half"
   FULL = 1,        ///< "full"
   UNAVAILABLE = 2, ///< "unavailable"
-  UNNAMED = 3,
+  UNNAMED = 3,     ///< no text: what a text outside the table reads as
 };
 
 /// The interface list of one AP, always handled through a shared pointer: a null pointer means that
@@ -57,30 +58,36 @@ public:
     std::uint64_t tx_drop = 0;                             ///< "tx-drop"
     std::uint64_t rx_drop = 0;                             ///< "rx-drop"
 
+    /// Equal when every member is equal (addresses by their octets, validity ignored).
     friend bool operator==(ApInterfaceInfo const&, ApInterfaceInfo const&) = default;
   };
 
   /// The interfaces in the order of the JSON array.
   std::vector<ApInterfaceInfo> interfaces;
 
-  /// Reads the "interface" array of node: null when there is no such array, an empty record for an
-  /// empty one. Never throws on bad input.
+  /// Reads the "interface" array of node, one entry per element as from_json reads it: null when
+  /// the member is missing or not an array, an empty record for an empty array. Never throws on bad
+  /// input.
   static std::shared_ptr<NcIpcApMonitoringInterfaces> from_netconf(lcw_data_t& node);
   /// The same reading as from_netconf: both forms are alike.
   static std::shared_ptr<NcIpcApMonitoringInterfaces> from_ipc(lcw_data_t& node);
 
-  /// Adds the array "interface" to node, one object per interface in list order.
+  /// Adds the array "interface" to node, one object per interface in list order; writes nothing
+  /// when node is not an object.
   void to_ipc(lcw_data_t& node) const;
   /// The compact text of a top-level array of the interface objects (no enclosing key); "[]" for
   /// no interfaces.
   std::string to_ipc() const;
 
-  /// Reads one interface object: unknown state and duplex texts give UNNAMED, a malformed
-  /// "hwaddr" the default address.
+  /// Reads one interface object. Never rejects one: "operstate" and "duplex" texts outside their
+  /// tables give UNNAMED, a malformed or missing "hwaddr" the default address, and a number that is
+  /// missing or unreadable 0. An element that is not an object gives an entry of defaults.
   static ApInterfaceInfo from_json(lcw_data_t const& object);
-  /// Writes one interface into object, keys in wire order.
+  /// Writes one interface into object, keys in wire order. A state or duplex mode outside its table
+  /// (UNNAMED included) is written as "".
   static void to_json(ApInterfaceInfo const& info, lcw_data_t& object);
 
+  /// Equal when both lists hold equal entries in the same order.
   friend bool operator==(NcIpcApMonitoringInterfaces const&,
                          NcIpcApMonitoringInterfaces const&) = default;
 };

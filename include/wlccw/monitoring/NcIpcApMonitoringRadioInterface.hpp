@@ -1,6 +1,7 @@
-// The radios of an access point as it reports them in its NETCONF monitoring data: name, band,
-// address, status, channel settings, transmit power and the measurements that radio-resource
-// management works with (noise, utilisation, interference, packet error rate).
+/// \file
+/// The radios of an access point as it reports them in its NETCONF monitoring data: name, band,
+/// address, status, channel settings, transmit power and the measurements that radio-resource
+/// management works with (noise, utilisation, interference, packet error rate).
 #pragma once
 
 #include <wlccw/cfg/tree.hpp>
@@ -23,8 +24,11 @@ average_vector_opt(std::vector<std::int32_t> const& values);
 /// The radio list of one AP. There is no error flag: a failed reading gives an empty list.
 class WLCCW_EXPORT NcIpcApMonitoringRadioInterface {
 public:
-  /// One radio. The seven measurements are filled by every reader, -1 standing for a measurement
-  /// the AP did not report; an empty one (a record built by hand) is left out of the IPC form.
+  /// One radio. The seven int8 measurements are filled by every reader, -1 standing for a
+  /// measurement the AP did not report (or one that does not fit); an empty one (a record built
+  /// by hand) is left out of the IPC form. The noise level is "noise-level" when it reads as a
+  /// 16-bit integer, else the average_vector_opt of the samples "noise-1" to "noise-8" (up to the
+  /// first missing one; "noise" when there is none) cut to 16 bits, else empty.
   struct WLCCW_EXPORT RadioParams {
     std::string name;                                   ///< "name"
     std::string band;                                   ///< "band"
@@ -35,7 +39,7 @@ public:
     std::optional<std::string> channel;                 ///< "channel"
     std::optional<std::string> bandwidth;               ///< "bandwidth"
     std::optional<std::string> frequency;               ///< "frequency"
-    std::optional<std::int16_t> noise_level;            ///< "noise-level" or the averaged samples
+    std::optional<std::int16_t> noise_level;            ///< "noise-level", else the noise samples
     std::optional<std::int8_t> utilization;             ///< "utilization"
     std::optional<std::int8_t> rx_utilization;          ///< "rx-utilization"
     std::optional<std::int8_t> tx_utilization;          ///< "tx-utilization"
@@ -44,9 +48,11 @@ public:
     std::optional<std::int8_t> co_channel_interference; ///< "co-channel-interference"
     std::optional<std::int8_t> packet_error_rate;       ///< "packet-error-rate"
 
-    /// Writes the radio into object, keys in wire order (channel and bandwidth before the power).
+    /// Writes the radio into object, keys in wire order (channel and bandwidth before the power);
+    /// empty optional members are left out.
     void to_json(lcw_data_t& object) const;
 
+    /// Equal when every member is equal.
     friend bool operator==(RadioParams const&, RadioParams const&) = default;
   };
 
@@ -56,14 +62,16 @@ public:
   /// No radios.
   NcIpcApMonitoringRadioInterface() = default;
   /// Reads text whose root is the array of radio objects (the "radio-interface" member of to_str's
-  /// text, not to_str's text itself); text that is not JSON or not an array gives no radios.
+  /// text, not to_str's text itself), one radio per element; text that is not JSON or not an array
+  /// gives no radios. Never throws on bad input.
   explicit NcIpcApMonitoringRadioInterface(std::string_view text);
 
   /// Reads an AP's NETCONF reply text: the "radio-interface" array under
   /// "/rpc-reply/data/monitoring". Text that is not JSON, a reply whose root "error" is true and a
   /// reply without that array give no radios. Never throws on bad input.
   static NcIpcApMonitoringRadioInterface from_netconf(std::string const& reply);
-  /// Reads an array node of radio objects; null or a node that is not an array gives no radios.
+  /// Reads an array node of radio objects, one radio per element; null or a node that is not an
+  /// array gives no radios.
   static NcIpcApMonitoringRadioInterface from_json(lcw_data_t const* array);
 
   /// The IPC tree, owned by the caller (release it with cfg_release): an object with the array
@@ -72,6 +80,7 @@ public:
   /// The compact text of get_json(); "" when no tree can be made.
   std::string to_str() const;
 
+  /// Equal when both lists hold equal radios in the same order.
   friend bool operator==(NcIpcApMonitoringRadioInterface const&,
                          NcIpcApMonitoringRadioInterface const&) = default;
 };

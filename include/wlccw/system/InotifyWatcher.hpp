@@ -1,4 +1,5 @@
-// Watching one directory with inotify, polled from the owner's own loop.
+/// \file
+/// Watching one directory with inotify, polled from the owner's own loop.
 #pragma once
 
 #include <wlccw/export.hpp>
@@ -17,11 +18,17 @@ public:
   virtual void inotify_event(struct inotify_event* event) = 0;
 
 protected:
+  /// For derived classes only.
   InotifyObserver() = default;
+  /// Copies nothing: the interface has no state.
   InotifyObserver(InotifyObserver const&) = default;
+  /// Copies nothing: the interface has no state.
   InotifyObserver& operator=(InotifyObserver const&) = default;
+  /// Moves nothing: the interface has no state.
   InotifyObserver(InotifyObserver&&) = default;
+  /// Moves nothing: the interface has no state.
   InotifyObserver& operator=(InotifyObserver&&) = default;
+  /// Protected and not virtual: an observer is never deleted through this interface.
   ~InotifyObserver() = default;
 };
 
@@ -41,24 +48,34 @@ public:
 
   /// An inactive watcher: empty directory, no descriptors.
   InotifyWatcher() noexcept = default;
-  /// Starts watching directory at once (see set_directory).
+  /// Starts watching directory at once (see set_directory); failures leave it as set_directory
+  /// does, without throwing.
   explicit InotifyWatcher(std::string_view directory_to_watch);
+  /// Removes the watch and closes the instance (deinit).
   ~InotifyWatcher();
 
+  /// Not copyable: the watcher owns its descriptors.
   InotifyWatcher(InotifyWatcher const&) = delete;
+  /// Not copyable: the watcher owns its descriptors.
   InotifyWatcher& operator=(InotifyWatcher const&) = delete;
+  /// Takes over the directory, the instance and the watch of other, which is left inactive with
+  /// an empty directory.
   InotifyWatcher(InotifyWatcher&& other) noexcept;
+  /// Drops this watcher's own watch (deinit), then takes over those of other as the move
+  /// constructor does; moving a watcher into itself changes nothing.
   InotifyWatcher& operator=(InotifyWatcher&& other) noexcept;
 
   /// Drops any previous watch and starts watching directory_to_watch. When no inotify instance
-  /// can be made, prints "inotify_init" with the system error and stays inactive; when the
-  /// directory cannot be watched, the instance exists but never reports anything (wd is -1).
+  /// can be made, prints "inotify_init" with the system error on stderr and stays inactive; when
+  /// the directory cannot be watched (missing, not a directory, no permission), the instance
+  /// exists but never reports anything (wd is -1). Never throws for any of these.
   void set_directory(std::string_view directory_to_watch);
 
   /// Waits at most 10 ms for events, reads at most one buffer of them and hands each named event
-  /// to observer; events about the directory itself (which carry no name) are skipped. Returns at
-  /// once when inactive; failures end the call silently. Events beyond the buffer wait for the
-  /// next call.
+  /// to observer, in order; events about the directory itself (which carry no name) are skipped.
+  /// Returns at once when inactive; failures end the call silently. Events beyond the buffer wait
+  /// for the next call. An exception from the observer propagates; the events after it in the
+  /// buffer are lost.
   void watch(InotifyObserver& observer);
 
   /// Removes the watch and closes the instance. Safe to call repeatedly.
