@@ -52,7 +52,7 @@ void BM_Poll(benchmark::State& state) {
   std::string const& text = reply(clients(state));
   // The heap the poll needs at its peak, measured on one poll before the timed ones.
   wlccw::bench::reset_heap_peak();
-  std::size_t const baseline = wlccw::bench::heap_counts().live_bytes;
+  std::ptrdiff_t const baseline = wlccw::bench::heap_counts().live_bytes;
   std::size_t const allocations_before = wlccw::bench::heap_counts().allocations;
   {
     wlccw::workload::PollResult const once = wlccw::workload::library_poll(text);
@@ -67,6 +67,7 @@ void BM_Poll(benchmark::State& state) {
       static_cast<double>(counts.peak_bytes - baseline) / static_cast<double>(text.size());
   state.counters["allocs/client"] = static_cast<double>(counts.allocations - allocations_before) /
                                     static_cast<double>(clients(state));
+  wlccw::bench::HeapCountingPause const timed;
   for (auto _ : state) {
     wlccw::workload::PollResult result = wlccw::workload::library_poll(text);
     benchmark::DoNotOptimize(&result);
@@ -75,6 +76,7 @@ void BM_Poll(benchmark::State& state) {
 }
 
 void BM_PollParse(benchmark::State& state) {
+  wlccw::bench::HeapCountingPause const timed;
   std::string const& text = reply(clients(state));
   for (auto _ : state) {
     wlccw::cfg::Tree root = wlccw::cfg::parse(text);
@@ -84,6 +86,7 @@ void BM_PollParse(benchmark::State& state) {
 }
 
 void BM_PollImport(benchmark::State& state) {
+  wlccw::bench::HeapCountingPause const timed;
   std::string const& text = reply(clients(state));
   wlccw::cfg::Tree const root = wlccw::cfg::parse(text);
   lcw_data_t* const array =
@@ -99,6 +102,7 @@ void BM_PollImport(benchmark::State& state) {
 }
 
 void BM_PollWrite(benchmark::State& state) {
+  wlccw::bench::HeapCountingPause const timed;
   std::string const& text = reply(clients(state));
   NcIpcClientList const list = wlccw::workload::import_clients(text);
   for (auto _ : state) {
@@ -111,18 +115,21 @@ void BM_PollWrite(benchmark::State& state) {
 }
 
 void BM_Floor_BoostParseSerialize(benchmark::State& state) {
+  wlccw::bench::HeapCountingPause const timed;
   std::string const& text = reply(clients(state));
   wlccw::bench::boost_parse_serialize(state, text);
   per_client(state, text);
 }
 
 void BM_Limit_SimdjsonDomParse(benchmark::State& state) {
+  wlccw::bench::HeapCountingPause const timed;
   std::string const& text = reply(clients(state));
   wlccw::bench::simdjson_dom_parse(state, text);
   per_client(state, text);
 }
 
 void BM_Peer_Nlohmann(benchmark::State& state) {
+  wlccw::bench::HeapCountingPause const timed;
   std::string const& text = reply(clients(state));
   for (auto _ : state) {
     wlccw::peer::PollResult result = wlccw::peer::poll(text);
@@ -132,6 +139,7 @@ void BM_Peer_Nlohmann(benchmark::State& state) {
 }
 
 void BM_Receive(benchmark::State& state) {
+  wlccw::bench::HeapCountingPause const timed;
   std::string const ipc = wlccw::workload::library_poll(reply(clients(state))).ipc_text;
   for (auto _ : state) {
     wlccw::cfg::Tree const root = wlccw::cfg::parse(ipc);
@@ -142,6 +150,7 @@ void BM_Receive(benchmark::State& state) {
 }
 
 void BM_ReceiveFloor_BoostParseSerialize(benchmark::State& state) {
+  wlccw::bench::HeapCountingPause const timed;
   std::string const ipc = wlccw::workload::library_poll(reply(clients(state))).ipc_text;
   wlccw::bench::boost_parse_serialize(state, ipc);
   per_client(state, ipc);

@@ -16,25 +16,30 @@ void __libc_free(void* block);
 
 namespace {
 
-std::atomic<std::size_t> live{0};
-std::atomic<std::size_t> peak{0};
+std::atomic<std::ptrdiff_t> live{0};
+std::atomic<std::ptrdiff_t> peak{0};
 std::atomic<std::size_t> allocations{0};
+std::atomic<bool> counting{true};
+
+std::ptrdiff_t usable(void* block) noexcept {
+  return static_cast<std::ptrdiff_t>(malloc_usable_size(block));
+}
 
 void count_allocation(void* block) noexcept {
-  if (block == nullptr) {
+  if (block == nullptr || !counting.load(std::memory_order_relaxed)) {
     return;
   }
   allocations.fetch_add(1, std::memory_order_relaxed);
-  std::size_t const now = live.fetch_add(malloc_usable_size(block), std::memory_order_relaxed) +
-                          malloc_usable_size(block);
-  std::size_t seen = peak.load(std::memory_order_relaxed);
+  std::ptrdiff_t const now =
+      live.fetch_add(usable(block), std::memory_order_relaxed) + usable(block);
+  std::ptrdiff_t seen = peak.load(std::memory_order_relaxed);
   while (now > seen && !peak.compare_exchange_weak(seen, now, std::memory_order_relaxed)) {
   }
 }
 
 void count_release(void* block) noexcept {
-  if (block != nullptr) {
-    live.fetch_sub(malloc_usable_size(block), std::memory_order_relaxed);
+  if (block != nullptr && counting.load(std::memory_order_relaxed)) {
+    live.fetch_sub(usable(block), std::memory_order_relaxed);
   }
 }
 
@@ -49,6 +54,14 @@ HeapCounts heap_counts() noexcept {
 
 void reset_heap_peak() noexcept {
   peak.store(live.load(std::memory_order_relaxed), std::memory_order_relaxed);
+}
+
+HeapCountingPause::HeapCountingPause() noexcept {
+  counting.store(false, std::memory_order_relaxed);
+}
+
+HeapCountingPause::~HeapCountingPause() {
+  counting.store(true, std::memory_order_relaxed);
 }
 
 } // namespace wlccw::bench
@@ -68,7 +81,10 @@ void* calloc(std::size_t count, std::size_t size) noexcept {
 }
 
 void* realloc(void* block, std::size_t size) noexcept {
-  std::size_t const before = block != nullptr ? malloc_usable_size(block) : 0;
+  if (!counting.load(std::memory_order_relaxed)) {
+    return __libc_realloc(block, size);
+  }
+  std::ptrdiff_t const before = block != nullptr ? usable(block) : 0;
   void* const moved = __libc_realloc(block, size);
   if (moved == nullptr) {
     // A failed reallocation keeps the old block; realloc(p, 0) may have freed it.

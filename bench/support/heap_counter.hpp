@@ -9,10 +9,12 @@
 namespace wlccw::bench {
 
 struct HeapCounts {
-  /// Usable bytes of the blocks allocated and not yet freed.
-  std::size_t live_bytes = 0;
+  /// Usable bytes allocated minus usable bytes freed while counting was on. Only differences of
+  /// it mean something: blocks allocated while counting was paused and freed while it is on take
+  /// their bytes off, so it may go below zero.
+  std::ptrdiff_t live_bytes = 0;
   /// The highest live_bytes since the last reset_heap_peak.
-  std::size_t peak_bytes = 0;
+  std::ptrdiff_t peak_bytes = 0;
   /// Allocations made since the program started (reallocations count as one).
   std::size_t allocations = 0;
 };
@@ -21,5 +23,15 @@ HeapCounts heap_counts() noexcept;
 
 /// Starts a new peak from the bytes in use now.
 void reset_heap_peak() noexcept;
+
+/// Turns the counting off while it lives, so that timed loops pay the C library's allocator and
+/// nothing more. Counting is on otherwise. Not nested, and only for single-threaded benchmarks.
+class HeapCountingPause {
+public:
+  HeapCountingPause() noexcept;
+  ~HeapCountingPause();
+  HeapCountingPause(HeapCountingPause const&) = delete;
+  HeapCountingPause& operator=(HeapCountingPause const&) = delete;
+};
 
 } // namespace wlccw::bench

@@ -280,9 +280,10 @@ MemberIndex* index_of(lcw_data_t const* object) {
   return object->lookup == Lookup::Index ? object->c.index : nullptr;
 }
 
-// The bits a member name sets in an object's filter: two of 64, from the name's length and its
-// first, middle and last eight bytes.
-std::uint64_t key_bits(char const* p, std::size_t n) {
+// A 64-bit mix of a member name, from its length and its first, middle and last eight bytes: a
+// few loads and multiplications whatever the length, which is all that member names need to be
+// told apart (names of up to 24 bytes take part whole).
+std::uint64_t key_mix(char const* p, std::size_t n) {
   std::uint64_t h = (n + 1) * 0x9E3779B97F4A7C15ULL;
   if (n >= 8) {
     std::uint64_t head;
@@ -308,23 +309,58 @@ std::uint64_t key_bits(char const* p, std::size_t n) {
     };
     h ^= (byte(0) | (byte(n / 2) << 8U) | (byte(n - 1) << 16U)) * 0xC2B2AE3D27D4EB4FULL;
   }
-  h ^= h >> 32U;
+  return h ^ (h >> 32U);
+}
+
+// The bits a member name sets in an object's filter: two of 64.
+std::uint64_t key_bits(char const* p, std::size_t n) {
+  std::uint64_t const h = key_mix(p, n);
   return (std::uint64_t{1} << (h & 63U)) | (std::uint64_t{1} << ((h >> 6U) & 63U));
 }
 
-constexpr std::size_t index_after_scanning = 64;
+// An object gets an index once one lookup has had to scan this many of its members: an
+// object read in document order never scans, one searched for names it lacks is indexed early.
+constexpr std::size_t index_after_scanning = 16;
 
+// The slot a member name starts probing from in an index (the high half of a multiplied mix,
+// whose low bits are what the table's mask keeps).
 std::size_t key_hash(char const* p, std::size_t n) {
-  std::uint64_t h = 14695981039346656037ULL; // FNV-1a
-  for (std::size_t i = 0; i < n; ++i) {
-    h ^= static_cast<unsigned char>(p[i]);
-    h *= 1099511628211ULL;
+  return static_cast<std::size_t>((key_mix(p, n) * 0x9E3779B97F4A7C15ULL) >> 32U);
+}
+
+// Whether the n bytes at a and at b are equal. Names of up to sixteen bytes, nearly all of them,
+// are compared in two overlapping loads from each side, without a call; longer ones are told
+// apart by their first and last eight bytes before the rest is compared.
+bool same_name(char const* a, char const* b, std::size_t n) noexcept {
+  auto const load8 = [](char const* p) {
+    std::uint64_t v;
+    std::memcpy(&v, p, sizeof v);
+    return v;
+  };
+  auto const load4 = [](char const* p) {
+    std::uint32_t v;
+    std::memcpy(&v, p, sizeof v);
+    return v;
+  };
+  if (n >= 8) {
+    if (load8(a) != load8(b) || load8(a + n - 8) != load8(b + n - 8)) {
+      return false;
+    }
+    return n <= 16 || std::memcmp(a + 8, b + 8, n - 16) == 0;
   }
-  return static_cast<std::size_t>(h ^ (h >> 32U));
+  if (n >= 4) {
+    return load4(a) == load4(b) && load4(a + n - 4) == load4(b + n - 4);
+  }
+  for (std::size_t i = 0; i < n; ++i) {
+    if (a[i] != b[i]) {
+      return false;
+    }
+  }
+  return true;
 }
 
 bool key_is(lcw_data_t const* member, char const* key, std::size_t len) {
-  return member->key_len == len && std::memcmp(member->key, key, len) == 0;
+  return member->key_len == len && same_name(member->key, key, len);
 }
 
 lcw_data_t* index_find(MemberIndex const* ix, char const* key, std::size_t len) {
@@ -553,7 +589,7 @@ void set_string(lcw_data_t* node, char const* text, std::size_t len) {
 }
 
 template <typename T> void set_integer(lcw_data_t* node, T value) {
-  char buf[24];
+  char buf[wlccw::detail::json_integer_room];
   std::size_t const len = wlccw::detail::json_integer_text(buf, value);
   if constexpr (std::is_signed_v<T>) {
     reset_value(node, Kind::Int);

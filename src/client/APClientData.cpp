@@ -1,5 +1,7 @@
 #include <wlccw/client/APClientData.hpp>
 
+#include "detail/client_statistics.hpp"
+
 #include <functional>
 #include <stdexcept>
 #include <utility>
@@ -74,16 +76,5 @@ get_tx_rx_statistics(lcw_data_t& node,
   }
   std::optional<APClientData::Statistics::Statistic> tx = reader(node, "tx");
   std::optional<APClientData::Statistics::Statistic> rx = reader(node, "rx");
-  if (!tx && !rx) {
-    return std::nullopt;
-  }
-  // One direction present makes the other a zeroed Statistic, not an absent one.
-  APClientData::Statistics statistics;
-  if (tx) {
-    statistics.tx = std::move(*tx);
-  }
-  if (rx) {
-    statistics.rx = std::move(*rx);
-  }
-  return statistics;
+  return wlccw::detail::combine_statistics(std::move(tx), std::move(rx));
 }

@@ -2,6 +2,7 @@
 // and the command-line summary of how the client authenticated.
 #include <wlccw/client/APClientData.hpp>
 
+#include "detail/client_enum_texts.hpp"
 #include "detail/client_ipc.hpp"
 #include "detail/tree_extensions.hpp"
 
@@ -210,7 +211,7 @@ template <typename Sink> void write_client_ipc(Sink& object, APClientData const&
   write_signal(object, "snr-list", "snr", client.snr);
 
   object.set_boolean_opt("authorized", client.authorized);
-  object.set_param_opt("wireless-mode", convert_to_ipc_str(client.wireless_mode));
+  object.set_text_opt("wireless-mode", ipc_text(client.wireless_mode));
   object.set_param_opt("link-quality", client.link_quality);
   object.set_param_opt("link-quality-common", client.link_quality_common);
 
@@ -228,12 +229,12 @@ template <typename Sink> void write_client_ipc(Sink& object, APClientData const&
     write_statistic(statistics, "rx", client.statistics->rx);
   }
 
-  object.set_param_opt("eap-method", convert_to_ipc_str(client.eap_method));
-  object.set_param_opt("mac-auth-status", convert_to_ipc_str(client.mac_auth_status));
-  object.set_param_opt("portal-auth-status", convert_to_ipc_str(client.portal_auth_status));
-  object.set_param_opt("wlan-auth-status", convert_to_ipc_str(client.wlan_auth_status));
-  object.set_param_opt("wlan-auth-method", convert_to_ipc_str(client.wlan_auth_method));
-  object.set_param_opt("auth-algorithm", convert_to_ipc_str(client.auth_algorithm));
+  object.set_text_opt("eap-method", ipc_text(client.eap_method));
+  object.set_text_opt("mac-auth-status", ipc_text(client.mac_auth_status));
+  object.set_text_opt("portal-auth-status", ipc_text(client.portal_auth_status));
+  object.set_text_opt("wlan-auth-status", ipc_text(client.wlan_auth_status));
+  object.set_text_opt("wlan-auth-method", ipc_text(client.wlan_auth_method));
+  object.set_text_opt("auth-algorithm", ipc_text(client.auth_algorithm));
 
   object.set_uint32_opt("wlan-auth-uptime", client.wlan_auth_uptime);
   object.set_uint32_opt("mac-auth-uptime", client.mac_auth_uptime);

@@ -5,6 +5,7 @@
 #include <wlccw/common/errors.hpp>
 #include <wlccw/common/html.hpp>
 
+#include "detail/client_statistics.hpp"
 #include "detail/html.hpp"
 #include "detail/modulation.hpp"
 
@@ -96,6 +97,61 @@ void read_signal(lcw_data_t const* client, char const* name,
   metric.reported = cfg_get_int32_param_opt(client, name);
 }
 
+/// The names one direction of a client's statistics is read from.
+struct DirectionKeys {
+  char const* rate;         // "tx-rate"
+  char const* bandwidth;    // "tx-bw"
+  char const* rate_numeric; // "tx-rate-numeric"
+  char const* actual_rate;  // "actual-tx-rate"
+  char const* counters;     // "/statistics/tx", the path of the counter object
+};
+
+constexpr DirectionKeys tx_keys{"tx-rate", "tx-bw", "tx-rate-numeric", "actual-tx-rate",
+                                "/statistics/tx"};
+constexpr DirectionKeys rx_keys{"rx-rate", "rx-bw", "rx-rate-numeric", "actual-rx-rate",
+                                "/statistics/rx"};
+
+/// One direction of a client's statistics, read under the given names.
+std::optional<APClientData::Statistics::Statistic> read_statistic(lcw_data_t& node,
+                                                                  DirectionKeys const& keys) {
+  using wlccw::detail::ModulationPart;
+  using wlccw::detail::parse_modulation_data_string;
+
+  std::optional<std::string> rate = cfg_get_param_opt(&node, keys.rate);
+  std::optional<std::string> bandwidth = cfg_get_param_opt(&node, keys.bandwidth);
+  std::optional<std::string> rate_numeric = cfg_get_param_opt(&node, keys.rate_numeric);
+  std::optional<std::uint32_t> const actual_rate =
+      cfg_get_uint32_param_opt(&node, keys.actual_rate);
+
+  std::optional<APClientData::Statistics::Statistic> statistic;
+  // The numeric rate only completes a rate text; by itself it makes no statistic.
+  if (rate || bandwidth || actual_rate) {
+    statistic.emplace();
+    if (actual_rate) {
+      statistic->actual_rate = static_cast<std::int32_t>(*actual_rate);
+    }
+    if (rate) {
+      statistic->modulation = parse_modulation_data_string(rate, ModulationPart::MODULATION);
+      statistic->rate_numeric =
+          rate_numeric ? std::move(rate_numeric)
+                       : parse_modulation_data_string(rate, ModulationPart::NUMERIC_RATE);
+      statistic->rate = std::move(rate);
+    }
+    if (bandwidth) {
+      statistic->bandwidth = std::move(bandwidth);
+    }
+  }
+
+  if (lcw_data_t const* const counters = cfg_get_subtree_from_path(&node, keys.counters)) {
+    if (!statistic) {
+      statistic.emplace();
+    }
+    statistic->bytes = cfg_get_int_param(counters, "bytes");
+    statistic->packets = cfg_get_int_param(counters, "packets");
+  }
+  return statistic;
+}
+
 } // namespace
 
 APClientData APClientData::from_netconf_json(lcw_data_t* client) {
@@ -137,7 +193,11 @@ APClientData APClientData::from_netconf_json(lcw_data_t* client) {
   data.link_quality = cfg_get_param_opt(client, "link-quality");
   data.link_quality_common = cfg_get_param_opt(client, "link-quality-common");
 
-  data.statistics = get_tx_rx_statistics(*client, get_statistic_from_netconf);
+  // get_tx_rx_statistics(client, get_statistic_from_netconf), without building names or calling
+  // through a std::function.
+  std::optional<APClientData::Statistics::Statistic> tx = read_statistic(*client, tx_keys);
+  std::optional<APClientData::Statistics::Statistic> rx = read_statistic(*client, rx_keys);
+  data.statistics = wlccw::detail::combine_statistics(std::move(tx), std::move(rx));
 
   data.eap_method = client_eap_method_from_netconf_str(cfg_get_param(client, "eap-method"));
   data.mac_auth_status =
@@ -167,42 +227,17 @@ APClientData APClientData::from_netconf_json(lcw_data_t* client) {
 
 std::optional<APClientData::Statistics::Statistic>
 get_statistic_from_netconf(lcw_data_t& node, std::string const& direction) {
-  using wlccw::detail::ModulationPart;
-  using wlccw::detail::parse_modulation_data_string;
-
-  std::optional<std::string> rate = cfg_get_param_opt(&node, (direction + "-rate").c_str());
-  std::optional<std::string> bandwidth = cfg_get_param_opt(&node, (direction + "-bw").c_str());
-  std::optional<std::string> rate_numeric =
-      cfg_get_param_opt(&node, (direction + "-rate-numeric").c_str());
-  std::optional<std::uint32_t> const actual_rate =
-      cfg_get_uint32_param_opt(&node, ("actual-" + direction + "-rate").c_str());
-
-  std::optional<APClientData::Statistics::Statistic> statistic;
-  // The numeric rate only completes a rate text; by itself it makes no statistic.
-  if (rate || bandwidth || actual_rate) {
-    statistic.emplace();
-    if (actual_rate) {
-      statistic->actual_rate = static_cast<std::int32_t>(*actual_rate);
-    }
-    if (rate) {
-      statistic->modulation = parse_modulation_data_string(rate, ModulationPart::MODULATION);
-      statistic->rate_numeric =
-          rate_numeric ? std::move(rate_numeric)
-                       : parse_modulation_data_string(rate, ModulationPart::NUMERIC_RATE);
-      statistic->rate = std::move(rate);
-    }
-    if (bandwidth) {
-      statistic->bandwidth = std::move(bandwidth);
-    }
+  if (direction == "tx"sv) {
+    return read_statistic(node, tx_keys);
   }
-
-  if (lcw_data_t const* const counters =
-          cfg_get_subtree_from_path(&node, ("/statistics/" + direction).c_str())) {
-    if (!statistic) {
-      statistic.emplace();
-    }
-    statistic->bytes = cfg_get_int_param(counters, "bytes");
-    statistic->packets = cfg_get_int_param(counters, "packets");
+  if (direction == "rx"sv) {
+    return read_statistic(node, rx_keys);
   }
-  return statistic;
+  std::string const rate = direction + "-rate";
+  std::string const bandwidth = direction + "-bw";
+  std::string const rate_numeric = direction + "-rate-numeric";
+  std::string const actual_rate = "actual-" + direction + "-rate";
+  std::string const counters = "/statistics/" + direction;
+  return read_statistic(node, {rate.c_str(), bandwidth.c_str(), rate_numeric.c_str(),
+                               actual_rate.c_str(), counters.c_str()});
 }

@@ -124,15 +124,22 @@ std::string text_or_empty(std::array<Row<V>, N> const& rows, V value) {
   return std::string(text_of(rows, value).value_or(""));
 }
 
+/// The text of an optional value, viewed in the rows; empty for no value or a value past the rows.
+template <typename V, std::size_t N>
+constexpr std::optional<std::string_view>
+optional_text_view(std::array<Row<V>, N> const& rows, std::optional<V> const& value) noexcept {
+  if (!value) {
+    return std::nullopt;
+  }
+  return text_of(rows, *value);
+}
+
 /// The text of an optional value as an optional string; empty for no value or a value past the
 /// rows.
 template <typename V, std::size_t N>
 std::optional<std::string> optional_text(std::array<Row<V>, N> const& rows,
                                          std::optional<V> const& value) {
-  if (!value) {
-    return std::nullopt;
-  }
-  std::optional<std::string_view> const text = text_of(rows, *value);
+  std::optional<std::string_view> const text = optional_text_view(rows, value);
   if (!text) {
     return std::nullopt;
   }

@@ -75,6 +75,12 @@ public:
   void set_param_opt(Key key, std::optional<std::string> const& value) {
     cfg_set_param_opt(node_, key.c_str(), value);
   }
+  /// A text viewed elsewhere, set as set_param_opt sets a string.
+  void set_text_opt(Key key, std::optional<std::string_view> const& value) {
+    if (value) {
+      cfg_set_param_opt(node_, key.c_str(), std::optional<std::string>(*value));
+    }
+  }
   void set_boolean_opt(Key key, std::optional<bool> const& value) {
     cfg_set_boolean_param_opt(node_, key.c_str(), value);
   }
@@ -228,6 +234,12 @@ public:
       write_json_string(*writer_, value->data(), value->size());
     }
   }
+  void set_text_opt(Key key, std::optional<std::string_view> const& value) {
+    if (value) {
+      member(key);
+      write_json_string(*writer_, value->data(), value->size());
+    }
+  }
   void set_boolean_opt(Key key, std::optional<bool> const& value) {
     if (value) {
       member(key);
@@ -272,7 +284,11 @@ private:
     if (key.plain()) {
       char* const o = writer_->room(key.size() + 3);
       o[0] = '"';
-      std::memcpy(o + 1, key.c_str(), key.size());
+      if (key.size() <= 16) {
+        copy_short(o + 1, key.c_str(), key.size());
+      } else {
+        std::memcpy(o + 1, key.c_str(), key.size());
+      }
       o[key.size() + 1] = '"';
       o[key.size() + 2] = ':';
       writer_->advance(key.size() + 3);
@@ -287,10 +303,10 @@ private:
     return TextSink(*writer_, writer_->depth());
   }
   template <typename T> void integer(T value) {
-    char buf[24];
-    std::size_t const n = json_integer_text(buf, value);
-    std::memcpy(writer_->room(n), buf, n);
-    writer_->advance(n);
+    // Written in place: the room of the longest 64-bit integer text is asked for, only the
+    // digits written are kept.
+    char* const o = writer_->room(json_integer_room);
+    writer_->advance(json_integer_text(o, value));
   }
   template <typename T> void integer_member(Key key, T value) {
     member(key);

@@ -1,6 +1,7 @@
 #include <wlccw/enums/ClientAuthAlgorithm.hpp>
 
 #include "detail/Dictionary.hpp"
+#include "detail/client_enum_texts.hpp"
 
 namespace {
 
@@ -48,4 +49,9 @@ std::optional<ClientAuthAlgorithm> client_auth_algorithm_from_ipc_str(std::strin
 
 std::optional<std::string> convert_to_ipc_str(std::optional<ClientAuthAlgorithm> const& algorithm) {
   return wlccw::detail::optional_text(client_auth_algorithm_ipc_names, algorithm);
+}
+
+std::optional<std::string_view>
+wlccw::detail::ipc_text(std::optional<ClientAuthAlgorithm> const& algorithm) noexcept {
+  return optional_text_view(client_auth_algorithm_ipc_names, algorithm);
 }

@@ -1,6 +1,7 @@
 #include <wlccw/enums/ClientEapMethod.hpp>
 
 #include "detail/Dictionary.hpp"
+#include "detail/client_enum_texts.hpp"
 
 namespace {
 
@@ -53,4 +54,9 @@ std::optional<ClientEapMethod> client_eap_method_from_ipc_str(std::string_view t
 
 std::optional<std::string> convert_to_ipc_str(std::optional<ClientEapMethod> const& method) {
   return wlccw::detail::optional_text(client_eap_method_ipc_names, method);
+}
+
+std::optional<std::string_view>
+wlccw::detail::ipc_text(std::optional<ClientEapMethod> const& method) noexcept {
+  return optional_text_view(client_eap_method_ipc_names, method);
 }

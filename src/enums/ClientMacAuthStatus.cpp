@@ -1,6 +1,7 @@
 #include <wlccw/enums/ClientMacAuthStatus.hpp>
 
 #include "detail/Dictionary.hpp"
+#include "detail/client_enum_texts.hpp"
 
 namespace {
 
@@ -40,4 +41,9 @@ std::optional<ClientMacAuthStatus> client_mac_auth_status_from_ipc_str(std::stri
 
 std::optional<std::string> convert_to_ipc_str(std::optional<ClientMacAuthStatus> const& status) {
   return wlccw::detail::optional_text(client_mac_auth_status_ipc_names, status);
+}
+
+std::optional<std::string_view>
+wlccw::detail::ipc_text(std::optional<ClientMacAuthStatus> const& status) noexcept {
+  return optional_text_view(client_mac_auth_status_ipc_names, status);
 }

@@ -1,6 +1,7 @@
 #include <wlccw/enums/ClientPortalAuthStatus.hpp>
 
 #include "detail/Dictionary.hpp"
+#include "detail/client_enum_texts.hpp"
 
 namespace {
 
@@ -46,4 +47,9 @@ client_portal_auth_status_from_ipc_str(std::string_view text) {
 
 std::optional<std::string> convert_to_ipc_str(std::optional<ClientPortalAuthStatus> const& status) {
   return wlccw::detail::optional_text(client_portal_auth_status_ipc_names, status);
+}
+
+std::optional<std::string_view>
+wlccw::detail::ipc_text(std::optional<ClientPortalAuthStatus> const& status) noexcept {
+  return optional_text_view(client_portal_auth_status_ipc_names, status);
 }

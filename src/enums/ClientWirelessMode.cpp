@@ -1,6 +1,7 @@
 #include <wlccw/enums/ClientWirelessMode.hpp>
 
 #include "detail/Dictionary.hpp"
+#include "detail/client_enum_texts.hpp"
 
 namespace {
 
@@ -56,4 +57,9 @@ client_wireless_mode_from_ipc_str(std::optional<std::string> text) {
 
 std::optional<std::string> convert_to_ipc_str(std::optional<ClientWirelessMode> const& mode) {
   return wlccw::detail::optional_text(client_wireless_mode_ipc_names, mode);
+}
+
+std::optional<std::string_view>
+wlccw::detail::ipc_text(std::optional<ClientWirelessMode> const& mode) noexcept {
+  return optional_text_view(client_wireless_mode_ipc_names, mode);
 }

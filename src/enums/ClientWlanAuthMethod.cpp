@@ -1,6 +1,7 @@
 #include <wlccw/enums/ClientWlanAuthMethod.hpp>
 
 #include "detail/Dictionary.hpp"
+#include "detail/client_enum_texts.hpp"
 
 namespace {
 
@@ -49,6 +50,11 @@ std::optional<ClientWlanAuthMethod> client_wlan_auth_method_from_ipc_str(std::st
 
 std::optional<std::string> convert_to_ipc_str(std::optional<ClientWlanAuthMethod> const& method) {
   return wlccw::detail::optional_text(client_wlan_auth_method_ipc_names, method);
+}
+
+std::optional<std::string_view>
+wlccw::detail::ipc_text(std::optional<ClientWlanAuthMethod> const& method) noexcept {
+  return optional_text_view(client_wlan_auth_method_ipc_names, method);
 }
 
 std::string convert_to_clish_str(std::optional<ClientWlanAuthMethod> const& method) {

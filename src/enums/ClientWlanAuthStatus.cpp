@@ -1,6 +1,7 @@
 #include <wlccw/enums/ClientWlanAuthStatus.hpp>
 
 #include "detail/Dictionary.hpp"
+#include "detail/client_enum_texts.hpp"
 
 namespace {
 
@@ -39,4 +40,9 @@ std::optional<ClientWlanAuthStatus> client_wlan_auth_status_from_ipc_str(std::st
 
 std::optional<std::string> convert_to_ipc_str(std::optional<ClientWlanAuthStatus> const& status) {
   return wlccw::detail::optional_text(client_wlan_auth_status_ipc_names, status);
+}
+
+std::optional<std::string_view>
+wlccw::detail::ipc_text(std::optional<ClientWlanAuthStatus> const& status) noexcept {
+  return optional_text_view(client_wlan_auth_status_ipc_names, status);
 }

@@ -135,6 +135,36 @@ TEST(CfgLookup, NamesAlikeInLengthAndEndsAreTold) {
   expect_reads(parsed.get(), model, names, "parsed");
 }
 
+// Names of one length that differ in one byte, at every position, for every length a lookup
+// compares in its own way (a few bytes, one or two words, words and the bytes between them): each
+// name finds its own member and no other, in written and in parsed objects.
+TEST(CfgLookup, NamesDifferingInOneByteAtAnyPositionAreTold) {
+  for (std::size_t length = 1; length <= 40; ++length) {
+    std::vector<std::string> names;
+    for (std::size_t at = 0; at < length; ++at) {
+      std::string name(length, 'n');
+      name[at] = 'm';
+      names.push_back(name);
+    }
+    std::string const context = "length " + std::to_string(length);
+    Tree root = make_object();
+    ASSERT_TRUE(root);
+    Model model;
+    for (std::size_t i = 0; i < names.size(); i += 2) {
+      cfg_set_int_param(root.get(), names[i].c_str(), static_cast<int>(i));
+      set(model, names[i], static_cast<int>(i));
+    }
+    std::vector<std::string> asked = names;
+    asked.emplace_back(length, 'n'); // differs from every name in one byte, never written
+    expect_reads(root.get(), model, asked, context + " written");
+    Tree parsed = parse(text_of(model));
+    ASSERT_TRUE(parsed);
+    expect_reads(parsed.get(), model, asked, context + " parsed");
+    std::vector<std::string> backwards(asked.rbegin(), asked.rend());
+    expect_reads(parsed.get(), model, backwards, context + " parsed, read backwards");
+  }
+}
+
 // Random turns of writing new names, rewriting present ones, reading present and absent ones and
 // reusing members as objects, on written and on parsed objects: the tree always matches the model.
 TEST(CfgLookup, ObjectsWrittenAndReadInTurnsMatchTheirModel) {

@@ -796,6 +796,21 @@ TEST(GetStatisticFromNetconf, DirectionSelectsTheKeys) {
             make_statistic(11, "CCK 11", "CCK", "11", std::nullopt, 3, 4));
 }
 
+// The keys are formed from any direction name, not only from the two an AP writes.
+TEST(GetStatisticFromNetconf, AnyDirectionNameFormsItsKeys) {
+  std::string const json = R"({"tx-rate":"OFDM 54","uplink-rate":"HE-MCS 5 NSS 1 286.8",)"
+                           R"("uplink-bw":"80MHz","uplink-rate-numeric":"290",)"
+                           R"("actual-uplink-rate":280,)"
+                           R"("statistics":{"uplink":{"bytes":5,"packets":6}}})";
+  EXPECT_EQ(statistic_of(json, "uplink"),
+            make_statistic(280, "HE-MCS 5 NSS 1 286.8", "HE-MCS 5 NSS 1", "290", "80MHz", 5, 6));
+  EXPECT_FALSE(statistic_of(json, "t"));
+  // An empty direction names no rate keys, and its counter path "/statistics/" is the object
+  // "statistics" itself, which holds no "bytes" or "packets": zero counters.
+  EXPECT_EQ(statistic_of(json, ""),
+            make_statistic(0, std::nullopt, std::nullopt, std::nullopt, std::nullopt, 0, 0));
+}
+
 // ---- get_tx_rx_statistics
 // ------------------------------------------------------------------------
 

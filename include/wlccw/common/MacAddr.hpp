@@ -47,7 +47,19 @@ public:
   /// Lexicographic over the six octets (the order of the numbers they form); the validity flags
   /// are not compared.
   friend constexpr std::strong_ordering operator<=>(MacAddr const& a, MacAddr const& b) noexcept {
-    return a.bytes <=> b.bytes;
+    return number(a.bytes) <=> number(b.bytes);
+  }
+
+private:
+  // The six octets as one 48-bit number, bytes[0] most significant: its order is the octets'
+  // lexicographic order, found without a call to compare bytes (lists keyed by address compare on
+  // every insertion and lookup).
+  static constexpr std::uint64_t number(std::array<unsigned char, 6> const& octets) noexcept {
+    std::uint64_t value = 0;
+    for (unsigned char const octet : octets) {
+      value = (value << 8U) | octet;
+    }
+    return value;
   }
 };
 
