@@ -8,6 +8,7 @@
 #include "detail/client_statistics.hpp"
 #include "detail/html.hpp"
 #include "detail/modulation.hpp"
+#include "detail/signal_readings.hpp"
 
 #include <cstdio>
 #include <string_view>
@@ -88,12 +89,8 @@ std::optional<std::uint32_t> uptime_from_netconf(char const* text) {
 /// accumulator, then takes the overall reading name as the reported value.
 void read_signal(lcw_data_t const* client, char const* name,
                  AntennaSignalMetrics<std::greater<int>, std::less<int>>& metric) {
-  std::vector<int> const values =
-      radio::signal::parse_numbered_parameters_from_netconf(client, name);
-  metric.values.reserve(metric.values.size() + values.size()); // one allocation for all readings
-  for (int const value : values) {
-    metric.add(value);
-  }
+  wlccw::detail::add_readings(metric,
+                              radio::signal::parse_numbered_parameters_from_netconf(client, name));
   metric.reported = cfg_get_int32_param_opt(client, name);
 }
 

@@ -5,7 +5,9 @@
 
 #include "detail/Dictionary.hpp"
 #include "detail/client_ipc.hpp"
+#include "detail/signal_readings.hpp"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <iterator>
@@ -23,26 +25,33 @@ using Statistic = Mlo::Link::Statistic;
 constexpr std::uint8_t max_netconf_link = 3;
 
 /// The NETCONF key of one field of link n: "mlo-link-" n "-" prefix suffix, n in decimal
-/// (mlo-link-1-mac, mlo-link-2-tx-rate, mlo-link-3-bytes-rx).
-std::string mlo_link_parameter_name(std::uint8_t n, std::optional<std::string_view> prefix,
-                                    std::string_view suffix) {
-  constexpr std::string_view stem = "mlo-link-";
-  char digits[4]; // 0 to 255
-  char const* const digits_end =
-      std::to_chars(std::begin(digits), std::end(digits), static_cast<int>(n)).ptr;
-  std::size_t const digit_count = static_cast<std::size_t>(digits_end - digits);
-
-  std::string name;
-  name.reserve(stem.size() + digit_count + 1 + (prefix ? prefix->size() : 0) + suffix.size());
-  name.append(stem);
-  name.append(digits, digit_count);
-  name.push_back('-');
-  if (prefix) {
-    name.append(*prefix);
+/// (mlo-link-1-mac, mlo-link-2-tx-rate, mlo-link-3-bytes-rx). Built in place: every name is short
+/// (at most "mlo-link-255-packets-tx"), and a std::string of over fifteen bytes would cost an
+/// allocation per key read.
+class LinkKey {
+public:
+  LinkKey(std::uint8_t n, std::optional<std::string_view> prefix,
+          std::string_view suffix) noexcept {
+    constexpr std::string_view stem = "mlo-link-";
+    char* o = std::copy(stem.begin(), stem.end(), text_);
+    o = std::to_chars(o, o + 3, static_cast<int>(n)).ptr;
+    *o++ = '-';
+    append(o, prefix.value_or(std::string_view{}));
+    append(o, suffix);
+    *o = '\0';
   }
-  name.append(suffix);
-  return name;
-}
+  char const* c_str() const noexcept { return text_; }
+
+private:
+  // The fixed parts are 13 bytes at most; a part that would not fit is cut, which the constant
+  // parts this file passes never are.
+  void append(char*& o, std::string_view part) noexcept {
+    std::size_t const room = static_cast<std::size_t>(std::end(text_) - 1 - o);
+    o = std::copy_n(part.begin(), std::min(part.size(), room), o);
+  }
+
+  char text_[40];
+};
 
 /// The band texts of a NETCONF link: "2", "5" and "6" only.
 constexpr std::array<wlccw::detail::Row<radio::Band>, 3> netconf_link_band_names{{
@@ -56,23 +65,20 @@ constexpr auto netconf_str_to_link_band = wlccw::detail::make_dictionary(netconf
 /// its key is missing.
 Statistic mlo_statistic_from_netconf(lcw_data_t const& client, std::uint8_t n, std::string_view d) {
   Statistic statistic;
-  statistic.rate = cfg_get_param_opt(&client, mlo_link_parameter_name(n, d, "-rate"sv).c_str());
-  statistic.bytes =
-      cfg_get_int32_param_opt(&client, mlo_link_parameter_name(n, "bytes-"sv, d).c_str());
-  statistic.packets =
-      cfg_get_int32_param_opt(&client, mlo_link_parameter_name(n, "packets-"sv, d).c_str());
+  statistic.rate = cfg_get_param_opt(&client, LinkKey(n, d, "-rate"sv).c_str());
+  statistic.bytes = cfg_get_int32_param_opt(&client, LinkKey(n, "bytes-"sv, d).c_str());
+  statistic.packets = cfg_get_int32_param_opt(&client, LinkKey(n, "packets-"sv, d).c_str());
   return statistic;
 }
 
 /// Link n of a NETCONF client object; empty when its MAC address is invalid or its band unknown.
 std::optional<Link> mlo_link_from_netconf(lcw_data_t const& client, std::uint8_t n) {
-  MacAddr const mac =
-      MacAddr::from_str(cfg_get_param(&client, mlo_link_parameter_name(n, {}, "mac"sv).c_str()));
+  MacAddr const mac = MacAddr::from_str(cfg_get_param(&client, LinkKey(n, {}, "mac"sv).c_str()));
   if (!mac.valid) {
     return std::nullopt;
   }
-  std::optional<radio::Band> const band = netconf_str_to_link_band.find(
-      cfg_get_param(&client, mlo_link_parameter_name(n, {}, "band"sv).c_str()));
+  std::optional<radio::Band> const band =
+      netconf_str_to_link_band.find(cfg_get_param(&client, LinkKey(n, {}, "band"sv).c_str()));
   if (!band) {
     return std::nullopt;
   }
@@ -81,16 +87,11 @@ std::optional<Link> mlo_link_from_netconf(lcw_data_t const& client, std::uint8_t
   link.id = n;
   link.mac = mac;
   link.band = *band;
-  link.bandwidth =
-      cfg_get_param_opt(&client, mlo_link_parameter_name(n, {}, "bandwidth"sv).c_str());
-  for (int const value : radio::signal::parse_numbered_parameters_from_netconf(
-           &client, mlo_link_parameter_name(n, {}, "rssi"sv).c_str())) {
-    link.rssi.add(value);
-  }
-  for (int const value : radio::signal::parse_numbered_parameters_from_netconf(
-           &client, mlo_link_parameter_name(n, {}, "snr"sv).c_str())) {
-    link.snr.add(value);
-  }
+  link.bandwidth = cfg_get_param_opt(&client, LinkKey(n, {}, "bandwidth"sv).c_str());
+  wlccw::detail::add_readings(link.rssi, radio::signal::parse_numbered_parameters_from_netconf(
+                                             &client, LinkKey(n, {}, "rssi"sv).c_str()));
+  wlccw::detail::add_readings(link.snr, radio::signal::parse_numbered_parameters_from_netconf(
+                                            &client, LinkKey(n, {}, "snr"sv).c_str()));
   link.tx = mlo_statistic_from_netconf(client, n, "tx"sv);
   link.rx = mlo_statistic_from_netconf(client, n, "rx"sv);
   return link;

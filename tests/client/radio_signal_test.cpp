@@ -1,9 +1,14 @@
 // Per-antenna signal readings of an AP's NETCONF client object.
 #include <wlccw/cfg/owned.hpp>
+#include <wlccw/client/AntennaSignalMetrics.hpp>
 #include <wlccw/client/radio_signal.hpp>
+
+#include "detail/signal_readings.hpp"
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -50,6 +55,48 @@ TEST(ParseNumberedParameters, NothingGivesAnEmptyList) {
 TEST(ParseNumberedParameters, AMemberThatIsNoIntegerReadsAsZero) {
   // Present members are read with the int reader, which gives 0 for a text that is no number.
   EXPECT_EQ(read(R"({"rssi-1":"weak","rssi-2":-50})", "rssi"), (std::vector<int>{0, -50}));
+}
+
+// ---- Feeding readings to a metric
+
+using Metric = AntennaSignalMetrics<std::greater<int>, std::less<int>>;
+
+Metric metric_with_floor(int floor) {
+  Metric metric;
+  metric.floor = floor;
+  return metric;
+}
+
+TEST(AddReadings, EachReadingIsAddedInOrderAndRaisedToTheFloor) {
+  Metric metric = metric_with_floor(-127);
+  wlccw::detail::add_readings(metric, std::vector<int>{-40, -140, -127, -128, 3});
+  EXPECT_EQ(metric.values, (std::vector<int>{-40, -127, -127, -127, 3}));
+  EXPECT_FALSE(metric.reported);
+  EXPECT_EQ(metric.get_signal(), -127);
+}
+
+TEST(AddReadings, NoReadingLeavesTheMetricEmpty) {
+  Metric metric = metric_with_floor(0);
+  wlccw::detail::add_readings(metric, std::vector<int>{});
+  EXPECT_TRUE(metric.values.empty());
+  EXPECT_EQ(metric.get_signal(), 0);
+}
+
+TEST(AddReadings, ReadingsFollowThoseTheMetricHasAlready) {
+  Metric metric = metric_with_floor(0);
+  metric.add(7);
+  wlccw::detail::add_readings(metric, std::vector<int>{-5, 9});
+  EXPECT_EQ(metric.values, (std::vector<int>{7, 0, 9}));
+}
+
+TEST(AddReadings, MoreReadingsThanAnApReportsAreAllAdded) {
+  Metric metric = metric_with_floor(0);
+  std::vector<int> readings;
+  for (int i = -2; i < 10; ++i) {
+    readings.push_back(i);
+  }
+  wlccw::detail::add_readings(metric, std::move(readings));
+  EXPECT_EQ(metric.values, (std::vector<int>{0, 0, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9}));
 }
 
 } // namespace
