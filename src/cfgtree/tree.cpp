@@ -154,10 +154,13 @@ public:
 
   template <typename T> T* make() { return ::new (allocate(sizeof(T), alignof(T))) T(); }
 
-  // A NUL-terminated copy of the bytes.
+  // A NUL-terminated copy of the bytes. Most names and values are short, and are copied in a few
+  // word moves rather than a call.
   char const* copy(char const* data, std::size_t n) {
     auto* out = static_cast<char*>(allocate(n + 1, 1));
-    if (n != 0) {
+    if (n <= 16) {
+      wlccw::detail::copy_short(out, data, n);
+    } else {
       std::memcpy(out, data, n);
     }
     out[n] = '\0';
@@ -462,15 +465,11 @@ lcw_data_t* find_filtered_member(lcw_data_t* object, char const* key, std::size_
   return nullptr;
 }
 
-// The member with the given name. The object remembers the member found last: its successor is
-// tried first (reading members in document order hits it), then the member itself (reading the
-// same member twice hits it), then the index if the object has one, else a scan from that
-// successor to the end and on from the start.
-lcw_data_t* find_member(lcw_data_t const* node, char const* key, std::size_t len) {
-  if (node == nullptr || key == nullptr || node->kind != Kind::Object) {
-    return nullptr;
-  }
-  auto* object = const_cast<lcw_data_t*>(node);
+// The member with the given name, when the member after the one found last is not it: the member
+// found last itself (reading the same member twice), then the index if the object has one, else a
+// scan from that successor to the end and on from the start.
+[[gnu::noinline]] lcw_data_t* find_other_member(lcw_data_t* object, char const* key,
+                                                std::size_t len) {
   if (object->lookup == Lookup::Filter) {
     return find_filtered_member(object, key, len);
   }
@@ -513,7 +512,27 @@ lcw_data_t* find_member(lcw_data_t const* node, char const* key, std::size_t len
   return found;
 }
 
-lcw_data_t* find_member(lcw_data_t const* node, char const* key) {
+// The member with the given name. The object remembers the member found last, and its successor
+// is tried first, here: reading members in document order hits it, at the cost of one comparison.
+// Everything else is find_other_member's.
+inline lcw_data_t* find_member(lcw_data_t const* node, char const* key, std::size_t len) {
+  if (node == nullptr || key == nullptr || node->kind != Kind::Object) {
+    return nullptr;
+  }
+  auto* object = const_cast<lcw_data_t*>(node);
+  if (object->lookup == Lookup::Hint) {
+    lcw_data_t* const last = object->c.hint;
+    lcw_data_t* const next =
+        last != nullptr && last->next != nullptr ? last->next : object->c.first;
+    if (next != nullptr && key_is(next, key, len)) {
+      object->c.hint = next;
+      return next;
+    }
+  }
+  return find_other_member(object, key, len);
+}
+
+inline lcw_data_t* find_member(lcw_data_t const* node, char const* key) {
   if (key == nullptr) {
     return nullptr;
   }
