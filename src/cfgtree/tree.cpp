@@ -286,7 +286,7 @@ MemberIndex* index_of(lcw_data_t const* object) {
 // A 64-bit mix of a member name, from its length and its first, middle and last eight bytes: a
 // few loads and multiplications whatever the length, which is all that member names need to be
 // told apart (names of up to 24 bytes take part whole).
-std::uint64_t key_mix(char const* p, std::size_t n) {
+inline std::uint64_t key_mix(char const* p, std::size_t n) {
   std::uint64_t h = (n + 1) * 0x9E3779B97F4A7C15ULL;
   if (n >= 8) {
     std::uint64_t head;
@@ -327,7 +327,7 @@ constexpr std::size_t index_after_scanning = 16;
 
 // The slot a member name starts probing from in an index (the high half of a multiplied mix,
 // whose low bits are what the table's mask keeps).
-std::size_t key_hash(char const* p, std::size_t n) {
+inline std::size_t key_hash(char const* p, std::size_t n) {
   return static_cast<std::size_t>((key_mix(p, n) * 0x9E3779B97F4A7C15ULL) >> 32U);
 }
 
@@ -375,7 +375,7 @@ lcw_data_t* index_find(MemberIndex const* ix, char const* key, std::size_t len) 
   }
 }
 
-void index_put(MemberIndex* ix, lcw_data_t* member) {
+inline void index_put(MemberIndex* ix, lcw_data_t* member) {
   for (std::size_t i = key_hash(member->key, member->key_len) & ix->mask;; i = (i + 1) & ix->mask) {
     lcw_data_t*& slot = ix->slots[i];
     if (slot == nullptr) {
@@ -393,7 +393,7 @@ void index_put(MemberIndex* ix, lcw_data_t* member) {
 // them.
 MemberIndex* build_index(Arena& arena, lcw_data_t* object, std::size_t members) {
   std::size_t capacity = 32;
-  while (capacity < members * 4) {
+  while (capacity < members * 2) {
     capacity *= 2;
   }
   auto* ix = arena.make<MemberIndex>();
