@@ -75,15 +75,16 @@ int NcIpcClientList::add_or_update(APClientData&& client) {
   }
   std::map<MacAddr, APClientData>& clients = entry->second.clients;
   int result = 0;
-  auto const present = clients.find(client.mac);
-  if (present != clients.end()) {
-    take_facts(present->second, client); // replaced whole: callers merge beforehand if they want to
+  // One descent finds the record or the place of a new one.
+  auto const place = clients.lower_bound(client.mac);
+  if (place != clients.end() && place->first == client.mac) {
+    take_facts(place->second, client); // replaced whole: callers merge beforehand if they want to
     result = 2;
   } else {
     // The new entry starts as a copy of an empty record (short texts, nothing on the heap) and
     // takes everything from the given one, its identity as it is.
     static APClientData const blank(MacAddr::from_str("02:00:00:00:00:00"), "-", "-");
-    APClientData& stored = clients.emplace(client.mac, blank).first->second;
+    APClientData& stored = clients.emplace_hint(place, client.mac, blank)->second;
     take_facts(stored, client);
     result = 1;
   }
