@@ -45,16 +45,26 @@ constexpr bool json_needs_escape(std::uint64_t x) noexcept {
   return control || has_zero(x ^ (ones * '"')) || has_zero(x ^ (ones * '\\'));
 }
 
-/// Copies n bytes, n at most 16, in a few word moves instead of a call: most names and values of
-/// the IPC texts are that short.
+/// The largest text copy_short and short_needs_escape take.
+inline constexpr std::size_t short_text_limit = 32;
+
+/// Copies n bytes, n at most short_text_limit, in a few overlapping word moves instead of a call:
+/// most names and values of the IPC texts, MAC addresses and rate texts included, are that short.
 inline void copy_short(char* out, char const* p, std::size_t n) noexcept {
+  auto const move8 = [](char* to, char const* from) {
+    std::uint64_t v;
+    std::memcpy(&v, from, 8);
+    std::memcpy(to, &v, 8);
+  };
   if (n >= 8) {
-    std::uint64_t head;
-    std::uint64_t tail;
-    std::memcpy(&head, p, 8);
-    std::memcpy(&tail, p + n - 8, 8);
-    std::memcpy(out, &head, 8);
-    std::memcpy(out + n - 8, &tail, 8);
+    move8(out, p);
+    if (n > 16) {
+      move8(out + 8, p + 8);
+      if (n > 24) {
+        move8(out + 16, p + 16);
+      }
+    }
+    move8(out + n - 8, p + n - 8);
   } else if (n >= 4) {
     std::uint32_t head;
     std::uint32_t tail;
@@ -69,14 +79,22 @@ inline void copy_short(char* out, char const* p, std::size_t n) noexcept {
   }
 }
 
-/// Whether any of the n bytes at p, n at most 16, needs an escape; read in at most two words.
+/// Whether any of the n bytes at p, n at most short_text_limit, needs an escape; read in words.
 inline bool short_needs_escape(char const* p, std::size_t n) noexcept {
+  auto const load8 = [](char const* from) {
+    std::uint64_t v;
+    std::memcpy(&v, from, 8);
+    return v;
+  };
   if (n >= 8) {
-    std::uint64_t head;
-    std::uint64_t tail;
-    std::memcpy(&head, p, 8);
-    std::memcpy(&tail, p + n - 8, 8);
-    return json_needs_escape(head) || json_needs_escape(tail);
+    std::uint64_t words = 0;
+    if (n > 16) {
+      words = n > 24 ? load8(p + 16) : 0x2020202020202020ULL; // spaces: nothing to escape
+      if (json_needs_escape(load8(p + 8)) || json_needs_escape(words)) {
+        return true;
+      }
+    }
+    return json_needs_escape(load8(p)) || json_needs_escape(load8(p + n - 8));
   }
   if (n >= 4) {
     std::uint32_t head;
@@ -100,7 +118,7 @@ template <typename Out> void write_json_string(Out& out, char const* p, std::siz
   char* base = out.room(n + 2);
   char* o = base;
   *o++ = '"';
-  if (n <= 16 && !short_needs_escape(p, n)) {
+  if (n <= short_text_limit && !short_needs_escape(p, n)) {
     copy_short(o, p, n);
     o[n] = '"';
     out.advance(n + 2);

@@ -276,11 +276,11 @@ std::string escaped_byte_by_byte(std::string const& value) {
   return out + "\"";
 }
 
-// The writer copies runs of plain bytes eight at a time; a byte to escape has to be found at
-// every position of a block and across block ends.
+// The writer checks and copies short texts in overlapping words and longer ones eight bytes at a
+// time; a byte to escape has to be found at every position of a word and across word ends.
 TEST(CfgSerialize, EscapesAreFoundAtEveryPositionOfLongerTexts) {
   std::string const specials{'\x01', '\x1f', '"', '\\', '\n', ' ', '\x7f', '\x80', '\xff', '!'};
-  for (std::size_t length = 1; length <= 26; ++length) {
+  for (std::size_t length = 1; length <= 40; ++length) {
     for (std::size_t at = 0; at < length; ++at) {
       for (char const special : specials) {
         std::string value(length, 'a');
