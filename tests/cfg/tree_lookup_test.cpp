@@ -86,6 +86,16 @@ void expect_reads(lcw_data_t* object, Model const& model, std::vector<std::strin
   }
 }
 
+// Writes names[first], names[first + 2], ... with their index as value, into the object and the
+// model.
+void write_every_other(lcw_data_t* object, Model& model, std::vector<std::string> const& names,
+                       std::size_t first) {
+  for (std::size_t i = first; i < names.size(); i += 2) {
+    cfg_set_int_param(object, names[i].c_str(), static_cast<int>(i));
+    set(model, names[i], static_cast<int>(i));
+  }
+}
+
 TEST(CfgLookup, WrittenObjectsOfEverySizeFindEveryNameInAnyOrder) {
   for (std::size_t size : {1U, 2U, 7U, 31U, 63U, 64U, 65U, 130U, 1000U}) {
     std::string const context = "size " + std::to_string(size);
@@ -119,16 +129,10 @@ TEST(CfgLookup, NamesAlikeInLengthAndEndsAreTold) {
   Tree root = make_object();
   ASSERT_TRUE(root);
   Model model;
-  for (std::size_t i = 0; i < names.size(); i += 2) {
-    cfg_set_int_param(root.get(), names[i].c_str(), static_cast<int>(i));
-    set(model, names[i], static_cast<int>(i));
-  }
+  write_every_other(root.get(), model, names, 0);
   expect_same(root.get(), model, "every other name written");
   expect_reads(root.get(), model, names, "written");
-  for (std::size_t i = 1; i < names.size(); i += 2) {
-    cfg_set_int_param(root.get(), names[i].c_str(), static_cast<int>(i));
-    set(model, names[i], static_cast<int>(i));
-  }
+  write_every_other(root.get(), model, names, 1);
   expect_same(root.get(), model, "all names written");
   Tree parsed = parse(text_of(model));
   ASSERT_TRUE(parsed);
@@ -150,10 +154,7 @@ TEST(CfgLookup, NamesDifferingInOneByteAtAnyPositionAreTold) {
     Tree root = make_object();
     ASSERT_TRUE(root);
     Model model;
-    for (std::size_t i = 0; i < names.size(); i += 2) {
-      cfg_set_int_param(root.get(), names[i].c_str(), static_cast<int>(i));
-      set(model, names[i], static_cast<int>(i));
-    }
+    write_every_other(root.get(), model, names, 0);
     std::vector<std::string> asked = names;
     asked.emplace_back(length, 'n'); // differs from every name in one byte, never written
     expect_reads(root.get(), model, asked, context + " written");
