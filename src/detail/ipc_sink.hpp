@@ -284,7 +284,7 @@ private:
     if (key.plain()) {
       char* const o = writer_->room(key.size() + 3);
       o[0] = '"';
-      if (key.size() <= 16) {
+      if (key.size() <= short_text_limit) {
         copy_short(o + 1, key.c_str(), key.size());
       } else {
         std::memcpy(o + 1, key.c_str(), key.size());

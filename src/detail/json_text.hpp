@@ -87,14 +87,10 @@ inline bool short_needs_escape(char const* p, std::size_t n) noexcept {
     return v;
   };
   if (n >= 8) {
-    std::uint64_t words = 0;
-    if (n > 16) {
-      words = n > 24 ? load8(p + 16) : 0x2020202020202020ULL; // spaces: nothing to escape
-      if (json_needs_escape(load8(p + 8)) || json_needs_escape(words)) {
-        return true;
-      }
-    }
-    return json_needs_escape(load8(p)) || json_needs_escape(load8(p + n - 8));
+    // The first and last words, and between them the words a longer text has: as copy_short.
+    return json_needs_escape(load8(p)) || json_needs_escape(load8(p + n - 8)) ||
+           (n > 16 && json_needs_escape(load8(p + 8))) ||
+           (n > 24 && json_needs_escape(load8(p + 16)));
   }
   if (n >= 4) {
     std::uint32_t head;
