@@ -6,6 +6,8 @@
 //   what any conversion through a JSON tree has to pay at least;
 // - Limit: simdjson's DOM parse of the reply text, what parsing alone costs at best;
 // - Peer: the same import and IPC list write done directly on nlohmann::json;
+// - PollBesideFloor: the poll and the floor taking turns within one loop, each timed on its own,
+//   for their ratio on a machine whose speed drifts;
 // - Receive: the receiving daemon's side, the list's IPC text -> NcIpcClientList::from_ipc_json,
 //   beside the floor of that text.
 // Each run reports the time per client (items) and bytes of reply per second; the library's poll
@@ -21,6 +23,7 @@
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
+#include <chrono>
 #include <climits>
 #include <cstdint>
 #include <map>
@@ -150,6 +153,47 @@ void BM_Peer_Nlohmann(benchmark::State& state) {
   per_client(state, text);
 }
 
+// The poll and the floor in turns, one of each per iteration, the one that goes first alternating.
+// Timed apart, the two run minutes from each other, and on a shared machine whose speed drifts
+// by tens of percent within a run their ratio moved by as much; in turns, both see the same
+// machine, and their ratio holds to a few percent however fast the machine is at the time.
+void BM_PollBesideFloor(benchmark::State& state) {
+  wlccw::bench::HeapCountingPause const timed;
+  std::string const& text = reply(clients(state));
+  using Clock = std::chrono::steady_clock;
+  Clock::duration poll{};
+  Clock::duration floor{};
+  auto const run = [&text](bool the_poll) {
+    if (the_poll) {
+      wlccw::workload::PollResult result = wlccw::workload::library_poll(text);
+      benchmark::DoNotOptimize(&result);
+    } else {
+      wlccw::bench::boost_parse_serialize_once(text);
+    }
+  };
+  bool poll_first = false;
+  for (auto _ : state) {
+    Clock::time_point const start = Clock::now();
+    run(poll_first);
+    Clock::time_point const between = Clock::now();
+    run(!poll_first);
+    Clock::time_point const end = Clock::now();
+    (poll_first ? poll : floor) += between - start;
+    (poll_first ? floor : poll) += end - between;
+    poll_first = !poll_first;
+  }
+  if (floor.count() > 0) {
+    state.counters["poll/floor"] =
+        std::chrono::duration<double>(poll) / std::chrono::duration<double>(floor);
+  }
+  auto const per_iteration_us = [](Clock::duration d) {
+    return benchmark::Counter(std::chrono::duration<double, std::micro>(d).count(),
+                              benchmark::Counter::kAvgIterations);
+  };
+  state.counters["poll_us"] = per_iteration_us(poll);
+  state.counters["floor_us"] = per_iteration_us(floor);
+}
+
 void BM_Receive(benchmark::State& state) {
   wlccw::bench::HeapCountingPause const timed;
   std::string const ipc = wlccw::workload::library_poll(reply(clients(state))).ipc_text;
@@ -183,5 +227,6 @@ BENCHMARK(BM_Peer_Nlohmann)->Apply(sizes);
 BENCHMARK(BM_PollParse)->Apply(sizes);
 BENCHMARK(BM_PollImport)->Apply(sizes);
 BENCHMARK(BM_PollWrite)->Apply(sizes);
+BENCHMARK(BM_PollBesideFloor)->Apply(sizes);
 BENCHMARK(BM_Receive)->Apply(sizes);
 BENCHMARK(BM_ReceiveFloor_BoostParseSerialize)->Apply(sizes);
