@@ -526,12 +526,14 @@ inline lcw_data_t* find_member(lcw_data_t const* node, char const* key, std::siz
     return nullptr;
   }
   auto* object = const_cast<lcw_data_t*>(node);
-  if (object->lookup == Lookup::Hint) {
-    lcw_data_t* const last = object->c.hint;
+  if (object->lookup != Lookup::Filter) {
+    // An indexed object keeps its hint in the index, and is read in document order all the same.
+    lcw_data_t*& hint = object->lookup == Lookup::Hint ? object->c.hint : object->c.index->hint;
+    lcw_data_t* const last = hint;
     lcw_data_t* const next =
         last != nullptr && last->next != nullptr ? last->next : object->c.first;
     if (next != nullptr && key_is(next, key, len)) {
-      object->c.hint = next;
+      hint = next;
       return next;
     }
   }

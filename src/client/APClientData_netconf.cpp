@@ -108,9 +108,10 @@ constexpr DirectionKeys tx_keys{"tx-rate", "tx-bw", "tx-rate-numeric", "actual-t
 constexpr DirectionKeys rx_keys{"rx-rate", "rx-bw", "rx-rate-numeric", "actual-rx-rate",
                                 "/statistics/rx"};
 
-/// One direction of a client's statistics, read under the given names.
-std::optional<APClientData::Statistics::Statistic> read_statistic(lcw_data_t& node,
-                                                                  DirectionKeys const& keys) {
+/// The rate facts of one direction of a client's statistics, read under the given names: empty
+/// when the AP gave none of the rate text, the bandwidth and the actual rate.
+std::optional<APClientData::Statistics::Statistic> read_rates(lcw_data_t& node,
+                                                              DirectionKeys const& keys) {
   using wlccw::detail::ModulationPart;
   using wlccw::detail::parse_modulation_data_string;
 
@@ -138,7 +139,13 @@ std::optional<APClientData::Statistics::Statistic> read_statistic(lcw_data_t& no
       statistic->bandwidth = std::move(bandwidth);
     }
   }
+  return statistic;
+}
 
+/// Adds the byte and packet counters of one direction to its statistic, which they make when the
+/// rates made none; nothing when the AP gave no counter object for the direction.
+void read_counters(lcw_data_t& node, DirectionKeys const& keys,
+                   std::optional<APClientData::Statistics::Statistic>& statistic) {
   if (lcw_data_t const* const counters = cfg_get_subtree_from_path(&node, keys.counters)) {
     if (!statistic) {
       statistic.emplace();
@@ -146,6 +153,13 @@ std::optional<APClientData::Statistics::Statistic> read_statistic(lcw_data_t& no
     statistic->bytes = cfg_get_int_param(counters, "bytes");
     statistic->packets = cfg_get_int_param(counters, "packets");
   }
+}
+
+/// One direction of a client's statistics, read under the given names.
+std::optional<APClientData::Statistics::Statistic> read_statistic(lcw_data_t& node,
+                                                                  DirectionKeys const& keys) {
+  std::optional<APClientData::Statistics::Statistic> statistic = read_rates(node, keys);
+  read_counters(node, keys, statistic);
   return statistic;
 }
 
@@ -191,25 +205,28 @@ APClientData APClientData::from_netconf_json(lcw_data_t* client) {
   data.link_quality_common = cfg_get_param_opt(client, "link-quality-common");
 
   // get_tx_rx_statistics(client, get_statistic_from_netconf), without building names or calling
-  // through a std::function.
-  std::optional<APClientData::Statistics::Statistic> tx = read_statistic(*client, tx_keys);
-  std::optional<APClientData::Statistics::Statistic> rx = read_statistic(*client, rx_keys);
+  // through a std::function. The reads follow the order APs write the keys in (the rates of both
+  // directions, then the counter object), so that most find the member next to the one before.
+  std::optional<APClientData::Statistics::Statistic> tx = read_rates(*client, tx_keys);
+  std::optional<APClientData::Statistics::Statistic> rx = read_rates(*client, rx_keys);
+  read_counters(*client, tx_keys, tx);
+  read_counters(*client, rx_keys, rx);
   data.statistics = wlccw::detail::combine_statistics(std::move(tx), std::move(rx));
 
+  // Each authentication state beside its time, as APs write them.
   data.eap_method = client_eap_method_from_netconf_str(cfg_get_param(client, "eap-method"));
   data.mac_auth_status =
       client_mac_auth_status_from_netconf_str(cfg_get_param(client, "radius-mac-auth"));
+  data.mac_auth_uptime = cfg_get_uint32_param_opt(client, "radius-mac-auth-time");
   data.portal_auth_status =
       client_portal_auth_status_from_netconf_str(cfg_get_param(client, "portal-auth"));
+  data.portal_auth_uptime = cfg_get_uint32_param_opt(client, "portal-auth-time");
   data.wlan_auth_status =
       client_wlan_auth_status_from_netconf_str(cfg_get_param(client, "wlan-auth-status"));
   data.wlan_auth_method =
       client_wlan_auth_method_from_netconf_str(cfg_get_param(client, "wlan-auth-type"));
-  data.auth_algorithm = client_auth_algorithm_netconf_str(cfg_get_param(client, "auth-algorithm"));
-
   data.wlan_auth_uptime = cfg_get_uint32_param_opt(client, "wlan-auth-time");
-  data.mac_auth_uptime = cfg_get_uint32_param_opt(client, "radius-mac-auth-time");
-  data.portal_auth_uptime = cfg_get_uint32_param_opt(client, "portal-auth-time");
+  data.auth_algorithm = client_auth_algorithm_netconf_str(cfg_get_param(client, "auth-algorithm"));
 
   data.mlo = Mlo::from_netconf_json(*client);
 
