@@ -1,5 +1,7 @@
 #include <wlccw/client/radio_signal.hpp>
 
+#include <array>
+#include <cstring>
 #include <string>
 
 namespace radio::signal {
@@ -9,14 +11,23 @@ std::vector<int> parse_numbered_parameters_from_netconf(lcw_data_t const* node, 
   if (name == nullptr) {
     return values;
   }
-  std::string key(name);
-  key += '-';
-  std::size_t const stem = key.size();
+  // The names "name-1" to "name-8" differ in their last character only: they are built once, in a
+  // buffer on the stack for the usual short names, and only that character changes.
+  std::size_t const stem = std::strlen(name);
+  std::array<char, 48> small{};
+  std::string large;
+  char* key = small.data();
+  if (stem + 3 > small.size()) {
+    large.resize(stem + 3);
+    key = large.data();
+  }
+  std::memcpy(key, name, stem);
+  key[stem] = '-';
+  key[stem + 2] = '\0';
   for (int n = 1; n <= 8; ++n) {
-    key.resize(stem);
-    key += static_cast<char>('0' + n);
+    key[stem + 1] = static_cast<char>('0' + n);
     // One lookup per member: the member node is read as an int where it is one, else as 0.
-    lcw_data_t const* const member = cfg_get_subtree(node, key.c_str());
+    lcw_data_t const* const member = cfg_get_subtree(node, key);
     if (member == nullptr) {
       break; // a gap ends the numbered readings
     }

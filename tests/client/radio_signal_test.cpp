@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -50,6 +51,16 @@ TEST(ParseNumberedParameters, NothingGivesAnEmptyList) {
   EXPECT_TRUE(read("{}", "rssi").empty());
   EXPECT_TRUE(parse_numbered_parameters_from_netconf(nullptr, "rssi").empty());
   EXPECT_TRUE(read(R"({"rssi":1})", nullptr).empty());
+}
+
+TEST(ParseNumberedParameters, NamesOfAnyLengthAreNumbered) {
+  // Short names and long ones (beyond what the reader keeps on its stack) read alike.
+  for (std::size_t length = 1; length <= 80; ++length) {
+    std::string const name(length, 'm');
+    std::string const json = R"({")" + name + R"(-1":-40,")" + name + R"(-2":-55,")" + name +
+                             R"(":-70,")" + name + R"(x-3":-61})";
+    EXPECT_EQ(read(json.c_str(), name.c_str()), (std::vector<int>{-40, -55})) << length;
+  }
 }
 
 TEST(ParseNumberedParameters, AMemberThatIsNoIntegerReadsAsZero) {
