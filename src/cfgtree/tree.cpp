@@ -471,23 +471,18 @@ lcw_data_t* find_filtered_member(lcw_data_t* object, char const* key, std::size_
   return nullptr;
 }
 
-// The member with the given name, when the member after the one found last is not it: the member
-// found last itself (reading the same member twice), then the index if the object has one, else a
-// scan from that successor to the end and on from the start.
+// The member with the given name, when find_member has found that the member after the one
+// found last is not it: the member found last itself (reading the same member twice), then the
+// index if the object has one, else a scan from that successor to the end and on from the start.
 [[gnu::noinline]] lcw_data_t* find_other_member(lcw_data_t* object, char const* key,
                                                 std::size_t len) {
   if (object->lookup == Lookup::Filter) {
     return find_filtered_member(object, key, len);
   }
-  lcw_data_t*& hint = object->lookup == Lookup::Index ? object->c.index->hint : object->c.hint;
-  lcw_data_t* const last = hint;
+  lcw_data_t* const last = object->lookup == Lookup::Index ? object->c.index->hint : object->c.hint;
   lcw_data_t* const next = last != nullptr && last->next != nullptr ? last->next : object->c.first;
   if (next == nullptr) {
     return nullptr;
-  }
-  if (key_is(next, key, len)) {
-    hint = next;
-    return next;
   }
   if (last != nullptr && key_is(last, key, len)) {
     return last;
